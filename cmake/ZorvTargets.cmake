@@ -1,0 +1,46 @@
+# One routine for each kind of target, so that a folder's CMakeLists.txt is one line.
+#
+#   zorv_library(<folder> [USES <folder>...] [LINKS <package target>...])
+#       static library zorv_<folder> of all sources of the folder it is called in
+#   zorv_test(<folder> [USES <folder>...])
+#       test binary test_<folder> of all sources of the folder it is called in
+
+find_package(PkgConfig REQUIRED)
+find_package(fmt REQUIRED)
+pkg_check_modules(SQLITE REQUIRED IMPORTED_TARGET sqlite3)
+pkg_check_modules(ICU REQUIRED IMPORTED_TARGET icu-i18n icu-uc)
+
+add_library(zorv_flags INTERFACE)
+target_compile_options(zorv_flags INTERFACE
+  -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Werror)
+if(ZORV_SANITIZE)
+  target_compile_options(zorv_flags INTERFACE
+    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(zorv_flags INTERFACE -fsanitize=address,undefined)
+endif()
+if(ZORV_FUZZ)
+  target_compile_options(zorv_flags INTERFACE -fsanitize=fuzzer-no-link,address,undefined)
+  target_link_options(zorv_flags INTERFACE -fsanitize=address,undefined)
+endif()
+target_include_directories(zorv_flags INTERFACE ${CMAKE_SOURCE_DIR}/src)
+target_link_libraries(zorv_flags INTERFACE fmt::fmt)
+
+function(zorv_library folder)
+  cmake_parse_arguments(ARG "" "" "USES;LINKS" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS *.cpp)
+  add_library(zorv_${folder} STATIC ${sources})
+  list(TRANSFORM ARG_USES PREPEND zorv_)
+  target_link_libraries(zorv_${folder} PUBLIC zorv_flags ${ARG_USES} PRIVATE ${ARG_LINKS})
+endfunction()
+
+function(zorv_test folder)
+  cmake_parse_arguments(ARG "" "" "USES" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS *.cpp)
+  add_executable(test_${folder} ${sources})
+  list(TRANSFORM ARG_USES PREPEND zorv_)
+  target_link_libraries(test_${folder} PRIVATE
+    zorv_flags ${ARG_USES} zorv_test_support GTest::gtest GTest::gtest_main)
+  target_compile_definitions(test_${folder} PRIVATE
+    ZORV_TEST_DATA="${CMAKE_CURRENT_SOURCE_DIR}" ZORV_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
+  add_test(NAME ${folder} COMMAND test_${folder})
+endfunction()

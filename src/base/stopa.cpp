@@ -1,0 +1,134 @@
+#include "base/stopa.h"
+
+#include <fmt/format.h>
+
+namespace base {
+
+std::string castka_pro_stopu(Castka castka) {
+    std::string text = fmt::format("{:.6f}", castka);
+    text.erase(text.find_last_not_of('0') + 1);
+    if (text.back() == '.') text.pop_back();
+    if (text == "-0") text = "0";
+    if (const auto tecka = text.find('.'); tecka != std::string::npos) text[tecka] = ',';
+    return text;
+}
+
+StopaKrok& Stopa::Zapis::krok_() {
+    return stopa_.kroky_[static_cast<std::size_t>(index_)];
+}
+
+Stopa::Zapis& Stopa::Zapis::z(std::string_view nazev, std::string_view promenna, Castka hodnota) {
+    // Looked up first: a running total may append its own step and move the vector.
+    const int odkud = stopa_.krok_promenne(promenna, hodnota);
+    krok_().vstupy.push_back({std::string(nazev), castka_pro_stopu(hodnota), "", odkud});
+    return *this;
+}
+
+Stopa::Zapis& Stopa::Zapis::udaj(std::string_view nazev, std::string_view hodnota,
+                                 std::string_view zdroj) {
+    krok_().vstupy.push_back({std::string(nazev), std::string(hodnota), std::string(zdroj), -1});
+    return *this;
+}
+
+Stopa::Zapis& Stopa::Zapis::udaj(std::string_view nazev, Castka hodnota, std::string_view zdroj) {
+    return udaj(nazev, castka_pro_stopu(hodnota), zdroj);
+}
+
+Stopa::Zapis& Stopa::Zapis::nastaveni(std::string_view nazev, Castka hodnota,
+                                      std::string_view zdroj) {
+    return udaj(nazev, castka_pro_stopu(hodnota), zdroj);
+}
+
+Stopa::Zapis& Stopa::Zapis::konstanta(std::string_view nazev, Castka hodnota) {
+    return udaj(nazev, castka_pro_stopu(hodnota), "pevná hodnota výpočtu");
+}
+
+Stopa::Zapis& Stopa::Zapis::vetev(std::string_view text) {
+    krok_().vstupy.push_back({std::string(text), "", "", -1});
+    return *this;
+}
+
+Stopa::Zapis& Stopa::Zapis::zaokrouhleni(const Zaokrouhleni& jak) {
+    krok_().zaokrouhleni = jak.popis;
+    return *this;
+}
+
+Stopa::Zapis& Stopa::Zapis::predpis(std::string_view text) {
+    krok_().predpis = text;
+    return *this;
+}
+
+int Stopa::Zapis::vysledek(std::string_view promenna, Castka hodnota) {
+    krok_().vysledek = castka_pro_stopu(hodnota);
+    stopa_.promenne_.insert_or_assign(std::string(promenna), index_);
+    return index_;
+}
+
+Stopa::Zapis Stopa::krok(std::string_view pravidlo) {
+    kroky_.push_back({std::string(pravidlo), {}, "", "", ""});
+    return {*this, static_cast<int>(kroky_.size()) - 1};
+}
+
+void Stopa::zacni_soucet(std::string_view promenna, std::string_view pravidlo) {
+    soucty_.insert_or_assign(std::string(promenna), Soucet{std::string(pravidlo), {}, -1});
+}
+
+void Stopa::pricti(std::string_view promenna, std::string_view nazev, std::string_view odkud,
+                   Castka castka) {
+    auto& soucet = soucty_[std::string(promenna)];
+    const int krok = krok_promenne(odkud, castka);
+    soucet.prispevky.push_back(
+        {std::string(nazev), castka_pro_stopu(castka), krok < 0 ? std::string(odkud) : "", krok});
+    soucet.krok = -1;
+}
+
+int Stopa::krok_promenne(std::string_view promenna, Castka hodnota) {
+    if (const auto it = soucty_.find(promenna); it != soucty_.end()) {
+        auto& soucet = it->second;
+        if (soucet.krok < 0) {
+            kroky_.push_back(
+                {soucet.pravidlo, soucet.prispevky, "", "", castka_pro_stopu(hodnota)});
+            soucet.krok = static_cast<int>(kroky_.size()) - 1;
+        }
+        return soucet.krok;
+    }
+    const auto it = promenne_.find(promenna);
+    return it == promenne_.end() ? -1 : it->second;
+}
+
+void Stopa::vymaz() {
+    kroky_.clear();
+    promenne_.clear();
+    soucty_.clear();
+}
+
+std::string Stopa::strom(int krok, int odsazeni) const {
+    std::string vystup;
+    std::vector<bool> videno(kroky_.size(), false);
+    strom_(krok, odsazeni, videno, vystup);
+    return vystup;
+}
+
+void Stopa::strom_(int krok, int odsazeni, std::vector<bool>& videno, std::string& vystup) const {
+    const auto index = static_cast<std::size_t>(krok);
+    const auto& k = kroky_[index];
+    const std::string okraj(static_cast<std::size_t>(odsazeni), ' ');
+    vystup += fmt::format("{}{} = {}", okraj, k.pravidlo, k.vysledek);
+    if (videno[index]) {
+        vystup += "  (rozepsáno výše)\n";
+        return;
+    }
+    videno[index] = true;
+    if (!k.zaokrouhleni.empty()) vystup += fmt::format("  [{}]", k.zaokrouhleni);
+    if (!k.predpis.empty()) vystup += fmt::format("  ({})", k.predpis);
+    vystup += '\n';
+    for (const auto& vstup : k.vstupy) {
+        vystup += fmt::format("{}  - {}", okraj, vstup.nazev);
+        if (!vstup.hodnota.empty()) vystup += fmt::format(": {}", vstup.hodnota);
+        if (!vstup.zdroj.empty()) vystup += fmt::format("  <- {}", vstup.zdroj);
+        vystup += '\n';
+        if (vstup.krok >= 0) strom_(vstup.krok, odsazeni + 6, videno, vystup);
+    }
+}
+
+}  // namespace base
