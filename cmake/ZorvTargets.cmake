@@ -2,7 +2,7 @@
 #
 #   zorv_library(<folder> [USES <folder>...] [LINKS <package target>...])
 #       static library zorv_<folder> of all sources of the folder it is called in
-#   zorv_test(<folder> [USES <folder>...])
+#   zorv_test(<folder> [USES <folder>...] [LINKS <target>...])
 #       test binary test_<folder> of all sources of the folder it is called in
 
 find_package(PkgConfig REQUIRED)
@@ -34,12 +34,15 @@ function(zorv_library folder)
 endfunction()
 
 function(zorv_test folder)
-  cmake_parse_arguments(ARG "" "" "USES" ${ARGN})
+  cmake_parse_arguments(ARG "" "" "USES;LINKS" ${ARGN})
   file(GLOB sources CONFIGURE_DEPENDS *.cpp)
+  if(NOT sources)
+    return()
+  endif()
   add_executable(test_${folder} ${sources})
   list(TRANSFORM ARG_USES PREPEND zorv_)
   target_link_libraries(test_${folder} PRIVATE
-    zorv_flags ${ARG_USES} zorv_test_support GTest::gtest GTest::gtest_main)
+    zorv_flags ${ARG_USES} ${ARG_LINKS} zorv_test_support GTest::gtest GTest::gtest_main)
   target_compile_definitions(test_${folder} PRIVATE
     ZORV_TEST_DATA="${CMAKE_CURRENT_SOURCE_DIR}" ZORV_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
   add_test(NAME ${folder} COMMAND test_${folder})

@@ -9,6 +9,10 @@
 
 namespace base {
 
+/// Fixed notation with `mist` decimals, to the nearest, and a decimal point whatever the locale; a
+/// zero has no minus. All text forms of amounts go through here.
+std::string castka_na_mista(int mist, Castka castka);
+
 /// `mist` decimals with a decimal point, a blank before the millions only (1234567.89 is 1
 /// 234567.89), padded on the left to `sirka`. Without decimals the blank goes in when the text is
 /// longer than six digits.
@@ -25,7 +29,7 @@ std::string castka_nebo_tecky(Castka castka);
 std::string castka_s_oddelovaci(Castka castka);
 /// "0.0" with a decimal point.
 std::string cislo_pro_export(Castka x);
-/// Plain decimal notation without trailing zeros and with decimal comma.
+/// Plain decimal notation, at most six decimals, without trailing zeros and with decimal comma.
 std::string castka_prosta(Castka castka);
 
 }  // namespace base

@@ -16,7 +16,7 @@ struct Datum {
     int den = 0;
 
     bool je_prazdne() const { return rok == 0; }
-    auto operator<=>(const Datum&) const = default;
+    auto operator<=>(const Datum&) const = default;  // NOLINT(modernize-use-nullptr): misread
 };
 
 /// A day and time of day; an empty `datum` means "no time".

@@ -24,9 +24,10 @@ struct PolohaOkna {
     int nahore = 0, vlevo = 0, sirka = 1024, vyska = 768;
 };
 /// The remembered place of a form from `<slozka>/Velmar/Okna/<program>_okna.ini`; nothing when
-/// there is no section (the face centres the window then).
+/// there is no section or the file cannot be read (the face centres the window then).
 std::optional<PolohaOkna> nacti_okno(const std::filesystem::path& slozka, std::string_view program,
                                      std::string_view form);
+/// A place that cannot be written is forgotten; it never stops the closing of a window.
 void uloz_okno(const std::filesystem::path& slozka, std::string_view program, std::string_view form,
                const PolohaOkna& poloha);
 

@@ -26,8 +26,14 @@ class IniSoubor {
     IniSoubor& operator=(IniSoubor&&) noexcept;
 
     std::optional<std::string> hodnota(std::string_view sekce, std::string_view klic) const;
+    /// A value that is no number, or none, gives the default.
+    int cislo(std::string_view sekce, std::string_view klic, int vychozi) const;
+    /// "1", "true", "ano" are true, "0", "false", "ne" false, anything else the default.
+    bool logicke(std::string_view sekce, std::string_view klic, bool vychozi) const;
+    /// A line end inside the value becomes a blank.
     void nastav(std::string_view sekce, std::string_view klic, std::string_view hodnota);
     void smaz_klic(std::string_view sekce, std::string_view klic);
+    /// Comments right above the next section stay with it.
     void smaz_sekci(std::string_view sekce);
     /// Keys of a section in file order.
     std::vector<std::string> klice(std::string_view sekce) const;
@@ -44,10 +50,8 @@ class IniSoubor {
 
 std::string cti_ini_text(const std::filesystem::path& soubor, std::string_view sekce,
                          std::string_view klic, std::string_view vychozi);
-/// A value that is no number gives the default.
 int cti_ini_cislo(const std::filesystem::path& soubor, std::string_view sekce,
                   std::string_view klic, int vychozi);
-/// "1", "true", "ano" are true, "0", "false", "ne" false, anything else the default.
 bool cti_ini_logicke(const std::filesystem::path& soubor, std::string_view sekce,
                      std::string_view klic, bool vychozi);
 void zapis_ini_text(const std::filesystem::path& soubor, std::string_view sekce,

@@ -2,16 +2,9 @@
 
 #include <fmt/format.h>
 
-namespace base {
+#include "base/castky_text.h"
 
-std::string castka_pro_stopu(Castka castka) {
-    std::string text = fmt::format("{:.6f}", castka);
-    text.erase(text.find_last_not_of('0') + 1);
-    if (text.back() == '.') text.pop_back();
-    if (text == "-0") text = "0";
-    if (const auto tecka = text.find('.'); tecka != std::string::npos) text[tecka] = ',';
-    return text;
-}
+namespace base {
 
 StopaKrok& Stopa::Zapis::krok_() {
     return stopa_.kroky_[static_cast<std::size_t>(index_)];
@@ -20,7 +13,7 @@ StopaKrok& Stopa::Zapis::krok_() {
 Stopa::Zapis& Stopa::Zapis::z(std::string_view nazev, std::string_view promenna, Castka hodnota) {
     // Looked up first: a running total may append its own step and move the vector.
     const int odkud = stopa_.krok_promenne(promenna, hodnota);
-    krok_().vstupy.push_back({std::string(nazev), castka_pro_stopu(hodnota), "", odkud});
+    krok_().vstupy.push_back({std::string(nazev), castka_prosta(hodnota), "", odkud});
     return *this;
 }
 
@@ -31,16 +24,16 @@ Stopa::Zapis& Stopa::Zapis::udaj(std::string_view nazev, std::string_view hodnot
 }
 
 Stopa::Zapis& Stopa::Zapis::udaj(std::string_view nazev, Castka hodnota, std::string_view zdroj) {
-    return udaj(nazev, castka_pro_stopu(hodnota), zdroj);
+    return udaj(nazev, castka_prosta(hodnota), zdroj);
 }
 
 Stopa::Zapis& Stopa::Zapis::nastaveni(std::string_view nazev, Castka hodnota,
                                       std::string_view zdroj) {
-    return udaj(nazev, castka_pro_stopu(hodnota), zdroj);
+    return udaj(nazev, castka_prosta(hodnota), zdroj);
 }
 
 Stopa::Zapis& Stopa::Zapis::konstanta(std::string_view nazev, Castka hodnota) {
-    return udaj(nazev, castka_pro_stopu(hodnota), "pevná hodnota výpočtu");
+    return udaj(nazev, castka_prosta(hodnota), "pevná hodnota výpočtu");
 }
 
 Stopa::Zapis& Stopa::Zapis::vetev(std::string_view text) {
@@ -59,7 +52,8 @@ Stopa::Zapis& Stopa::Zapis::predpis(std::string_view text) {
 }
 
 int Stopa::Zapis::vysledek(std::string_view promenna, Castka hodnota) {
-    krok_().vysledek = castka_pro_stopu(hodnota);
+    krok_().vysledek = castka_prosta(hodnota);
+    stopa_.soucty_.erase(std::string(promenna));
     stopa_.promenne_.insert_or_assign(std::string(promenna), index_);
     return index_;
 }
@@ -70,24 +64,36 @@ Stopa::Zapis Stopa::krok(std::string_view pravidlo) {
 }
 
 void Stopa::zacni_soucet(std::string_view promenna, std::string_view pravidlo) {
+    promenne_.erase(std::string(promenna));
     soucty_.insert_or_assign(std::string(promenna), Soucet{std::string(pravidlo), {}, -1});
 }
 
 void Stopa::pricti(std::string_view promenna, std::string_view nazev, std::string_view odkud,
                    Castka castka) {
-    auto& soucet = soucty_[std::string(promenna)];
     const int krok = krok_promenne(odkud, castka);
+    auto& soucet = soucet_promenne(promenna);
     soucet.prispevky.push_back(
-        {std::string(nazev), castka_pro_stopu(castka), krok < 0 ? std::string(odkud) : "", krok});
+        {std::string(nazev), castka_prosta(castka), krok < 0 ? std::string(odkud) : "", krok});
     soucet.krok = -1;
+}
+
+Stopa::Soucet& Stopa::soucet_promenne(std::string_view promenna) {
+    if (const auto it = soucty_.find(promenna); it != soucty_.end()) return it->second;
+    Soucet soucet{std::string(promenna), {}, -1};
+    if (const auto it = promenne_.find(promenna); it != promenne_.end()) {
+        const StopaKrok& krok = kroky_[static_cast<std::size_t>(it->second)];
+        soucet.pravidlo = krok.pravidlo;
+        soucet.prispevky.push_back({"dosavadní hodnota", krok.vysledek, "", it->second});
+        promenne_.erase(it);
+    }
+    return soucty_.emplace(promenna, std::move(soucet)).first->second;
 }
 
 int Stopa::krok_promenne(std::string_view promenna, Castka hodnota) {
     if (const auto it = soucty_.find(promenna); it != soucty_.end()) {
         auto& soucet = it->second;
         if (soucet.krok < 0) {
-            kroky_.push_back(
-                {soucet.pravidlo, soucet.prispevky, "", "", castka_pro_stopu(hodnota)});
+            kroky_.push_back({soucet.pravidlo, soucet.prispevky, "", "", castka_prosta(hodnota)});
             soucet.krok = static_cast<int>(kroky_.size()) - 1;
         }
         return soucet.krok;
@@ -104,6 +110,7 @@ void Stopa::vymaz() {
 
 std::string Stopa::strom(int krok, int odsazeni) const {
     std::string vystup;
+    if (krok < 0 || krok >= static_cast<int>(kroky_.size())) return vystup;
     std::vector<bool> videno(kroky_.size(), false);
     strom_(krok, odsazeni, videno, vystup);
     return vystup;

@@ -40,9 +40,6 @@ struct StopaKrok {
     std::string vysledek;
 };
 
-/// An amount in plain decimal notation, without trailing zeros, decimal comma.
-std::string castka_pro_stopu(Castka castka);
-
 class Stopa {
   public:
     /// Fills one step; `vysledek` ends it.
@@ -78,7 +75,8 @@ class Stopa {
 
     /// Starts the running total `promenna` anew at zero.
     void zacni_soucet(std::string_view promenna, std::string_view pravidlo);
-    /// Adds to the running total; the contribution is the current value of `odkud` when that is a
+    /// Adds to the running total (a step's result begins one as its first contribution); the
+    /// contribution is the current value of `odkud` when that is a
     /// variable, otherwise a plain input.
     void pricti(std::string_view promenna, std::string_view nazev, std::string_view odkud,
                 Castka castka);
@@ -89,7 +87,8 @@ class Stopa {
     const std::vector<StopaKrok>& kroky() const { return kroky_; }
     void vymaz();
 
-    /// The tree under one step as indented text lines; a step met again is only referred to.
+    /// The tree under one step as indented text lines; a step met again is only referred to. ""
+    /// when there is no such step.
     std::string strom(int krok, int odsazeni = 0) const;
 
   private:
@@ -98,6 +97,7 @@ class Stopa {
         std::vector<StopaVstup> prispevky;
         int krok = -1;  // step made for the contributions so far; -1 when one came after it
     };
+    Soucet& soucet_promenne(std::string_view promenna);
     void strom_(int krok, int odsazeni, std::vector<bool>& videno, std::string& vystup) const;
 
     std::vector<StopaKrok> kroky_;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -16,6 +17,8 @@ namespace base {
 bool neprazdny(std::string_view text);
 /// The text without leading and trailing blanks (spaces, tabs, line ends).
 std::string orez(std::string_view text);
+/// The integer that the whole text is, blanks around passed over; nothing when it is none.
+std::optional<int> cele_cislo_z_textu(std::string_view text);
 /// The integer value; a text that does not convert whole gives 0. Blanks around are passed over.
 int je_cele_cislo(std::string_view text);
 /// The decimal value, with "," or "." as separator; a text that does not convert whole gives 0.

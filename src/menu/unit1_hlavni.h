@@ -16,7 +16,11 @@ class TForm1 final : public base::Obrazovka {
 
     std::string lbFirma;  ///< the company's line, or "Vyber firmu --->"
     int mesic = 1;        ///< the month box, 1 to 12
+    std::string pozadi;   ///< background picture of the company, a path
 
+    /// At the start: opens the session's company; one whose folder has vanished is cleared
+    /// silently.
+    void FormShow();
     /// Opens the company `firma` of the session (already set with `koren_dat`): control files,
     /// missing tables. True when it stands ready; false when the operator left the first structure
     /// without saving or accounting files are missing (the message was shown).
@@ -39,6 +43,8 @@ class TForm1 final : public base::Obrazovka {
     shell::Session& session_;
     bool testuj_ucetnictvi_v_tomto_pocitaci();
     void prenes_vyloucene_sloupce();
+    void prenes_jmeno_ucetni();
+    bool zaloz_listinu_pro_vypocet();
 };
 
 /// Month tables, made at the first entry into their actions.

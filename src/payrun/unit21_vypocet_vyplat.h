@@ -39,6 +39,7 @@ class TForm21 final : public base::Obrazovka {
     bool preruseno = false;
     bool zavreno = false;
 
+    /// Counts the month's working days and shows what an earlier run left behind.
     void FormShow();
     void Button2Click();  ///< "Zpracuj výplaty": the run
     void Button3Click();  ///< "Přerušit"
@@ -47,6 +48,17 @@ class TForm21 final : public base::Obrazovka {
 
   private:
     struct Beh;
+    void priprav_beh();
+    void vrat_po_chybe();
+    void proved_vypocet();
+    void projdi_pracovniky(Beh& beh);
+    void uzavri_bez_preruseni();
+    bool mame_zaporne_vyplaty();
+    void zrus_preruseny_vypocet();
+    void zobrazit_vysledky_vypoctu();
+    bool zeptej_se_na_slevy(const std::string& text);
+    void posun_prubeh(std::size_t zpracovano);
+
     std::unique_ptr<Beh> beh_;
     shell::Session& session_;
 };

@@ -36,7 +36,7 @@ class TForm2 final : public base::Obrazovka {
   private:
     shell::Session& session_;
     void proved_kontrolu_navaznosti();
-    void kontrola(int modul, int prvni, int& posledni_predchozi);
+    void kontrola(int modul, int prvni, int posledni_predchozi);
     static bool Interval_chybny(int od, int do_);
 };
 

@@ -2,6 +2,7 @@
 // read. There is no global variable: whoever needs the session is given it.
 #pragma once
 
+#include <array>
 #include <filesystem>
 #include <memory>
 #include <optional>
@@ -58,6 +59,7 @@ class Session {
     BankovniRidici bankovni_ridici;
     UcetniRidici ucetni_ridici;
     Nastaveni nastaveni;
+    std::array<std::string, 3> sazby_dph;  ///< company values "dphs1" to "dphs3", VAT in percent
     /// Lines of pay-sheet columns, see paysheet/sloupce.h: two digits and the caption.
     std::vector<std::string> sloupce_slovy;
 
@@ -85,6 +87,19 @@ VelmarIni cti_velmar_ini(const std::filesystem::path& soubor,
 /// Derives year and paths from root and company, carries the old `Firma` folder over, opens
 /// `Setup`. A year below 2009 shows its message and throws base::UkonceniProgramu.
 void cti_konfiguracni_soubor(Session& session);
+
+/// The record of a company that has none yet; the drive is the program folder's, "C" when its path
+/// has no drive letter.
+RidiciZorv vychozi_ridici_zorv(const std::filesystem::path& slozka_programu);
+/// Derives what follows from the record in `ridici_zorv`: the active month, the month box, the
+/// accounting folder of the main computer.
+void uplatni_ridici_zorv(Session& session);
+
+/// The folder of a company, its name found without regard to case; the name as given when there is
+/// none.
+std::filesystem::path slozka_firmy(const std::filesystem::path& koren_dat, std::string_view nazev);
+/// True when the folder's database holds the table; makes nothing.
+bool tabulka_existuje(const std::filesystem::path& slozka, std::string_view tabulka);
 
 /// Company folders under the root, upper-cased and sorted: named by more than two characters, two
 /// digits last, with a `Setup` table in `Ucet` (or `Firma`).

@@ -1,5 +1,5 @@
 // The catalogue: every table of a company and year as data. The one source for creating,
-// describing, importing and checking tables.
+// describing, importing and checking tables. The data stand in catalogue_*.cpp.
 #pragma once
 
 #include <optional>
@@ -24,7 +24,9 @@ enum class Scope {
 };
 
 struct CatalogueEntry {
-    TableDef definition;  ///< of a month table without the month's digits: "Hrube"
+    /// Of a month table without the month's digits: "Hrube"; the corrections of the annual
+    /// settlement, whose name ends in the year, are "RocniYYYY".
+    TableDef definition;
     Place place;
     Scope scope;
     std::string maker;    ///< the routine that makes it, "" when another module does
@@ -44,7 +46,8 @@ TableDef definition_of(std::string_view table);
 /// "Hrube" and 3 give "Hrube03".
 std::string month_table(std::string_view name, int month);
 
-/// Names of the tables that opening a company creates when missing, in order.
+/// Names of the tables that opening a company creates when missing, in order: first those of the
+/// accounting folder, then the payroll's own. `Rpd` is among them; its first rows are a template's.
 const std::vector<std::string>& tables_made_at_opening();
 
 }  // namespace store

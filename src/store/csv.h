@@ -14,9 +14,10 @@ struct CsvRow {
     std::vector<std::string> fields;
 };
 
-/// Rows of a CSV text; a leading UTF-8 byte-order mark is passed over, empty lines are skipped.
-/// Throws base::ChybaDat naming the line for a quote out of place, an unended quoted field or bytes
-/// that are not UTF-8; `file` is what the message calls the text.
+/// Rows of a CSV text; a leading UTF-8 byte-order mark is passed over, empty lines are skipped (so
+/// a row of one empty field, too). Throws base::ChybaDat naming the line for a quote out of place,
+/// an unended quoted field, a carriage return alone or bytes that are not UTF-8; `file` is what the
+/// message calls the text.
 std::vector<CsvRow> parse_csv(std::string_view text, std::string_view file);
 
 /// One line without its end; a field with comma, quote or line end is quoted.

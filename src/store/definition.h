@@ -42,10 +42,15 @@ struct TableDef {
 
     /// Position of a field, names compared without regard to case; -1 when there is none.
     int field_index(std::string_view field) const;
+    bool operator==(const TableDef&) const = default;
 };
 
 /// "int16", "text(30)": what an error message says was expected.
 std::string type_in_words(const FieldDef& field);
+
+/// True when two names of tables, fields or indexes are the same: letters a to z compare without
+/// regard to case, everything else byte by byte.
+bool same_name(std::string_view a, std::string_view b);
 
 /// A table's name as the store keeps it: a trailing ".db" cut, whatever its case.
 std::string bare_table_name(std::string_view name);

@@ -42,6 +42,8 @@ class Query {
     /// Position of a column, names compared without regard to case. Throws StoreError naming it.
     int column(std::string_view name) const;
 
+    /// Columns of the current row; with no row each is empty. A column that is not there throws
+    /// StoreError.
     Value value(int column) const;
     bool is_empty(int column) const;
     std::string text(int column) const;

@@ -19,7 +19,8 @@ class Table {
     Table(const Table&) = delete;
     Table& operator=(const Table&) = delete;
 
-    /// Allowed only while closed; otherwise StoreError.
+    /// Allowed only while closed; otherwise StoreError. The connection must live longer than the
+    /// table is open.
     void set_connection(Connection& connection);
     void set_table_name(std::string_view name);
     /// Fixes the order of rows; "" is the order of entry.
@@ -36,8 +37,8 @@ class Table {
     /// 1 for the first row; 0 when the table is empty.
     std::size_t record_number() const;
     void first();
-    void next();  ///< after the last row sets `eof` and stays there
-    void prior();
+    void next();   ///< after the last row sets `eof` and stays there
+    void prior();  ///< before the first row sets `bof` and stays there
     void last();
     bool eof() const;
     bool bof() const;
@@ -53,6 +54,7 @@ class Table {
     base::Datum date(std::string_view field) const { return value(field).as_date(); }
 
     /// A row is changed by append, insert or edit, then set, then post. `post` needs a Transaction.
+    /// Until post or cancel a move to another row throws StoreError.
     void append();
     void insert();  ///< the same as append: rows have no place but the order of entry
     void edit();
@@ -64,7 +66,8 @@ class Table {
     void post();
     void cancel();
     bool is_editing() const;
-    /// Deletes the current row and moves to the next. Needs a Transaction.
+    /// Deletes the current row and moves to the next; after the last row that sets `eof`. Needs a
+    /// Transaction.
     void remove();
 
     /// First row, in the table's order, whose field equals the value (texts without regard to
@@ -90,7 +93,8 @@ class Table {
 
 /// Appends many rows of one table through one prepared statement. Fields are addressed by their
 /// position in the list given at construction; a field not listed stays empty. The same checks as
-/// Table::set apply. Needs a Transaction while rows are inserted.
+/// Table::set apply; only the autoincrement may be listed and set here, for rows that come from
+/// outside with their row key (1 and up). Needs a Transaction while rows are inserted.
 class Inserter {
   public:
     Inserter(Connection& connection, std::string_view table,
@@ -102,9 +106,13 @@ class Inserter {
     void set(std::size_t position, std::int64_t value);
     void set(std::size_t position, int value) { set(position, std::int64_t{value}); }
     void set(std::size_t position, double value);
+    void set(std::size_t position, long double value) { set(position, static_cast<double>(value)); }
     void set(std::size_t position, bool value);
     void set(std::size_t position, std::string_view value);
     void set(std::size_t position, const char* value) { set(position, std::string_view(value)); }
+    void set(std::size_t position, const std::string& value) {
+        set(position, std::string_view(value));
+    }
     void set(std::size_t position, const Value& value);
     void clear(std::size_t position);
     /// Inserts the row, returns its `Pocitadlo`; all fields are empty again afterwards.

@@ -32,9 +32,11 @@ class Value {
     std::int64_t as_integer() const;
     /// Number; empty is 0.
     double as_number() const;
+    /// A number is true when it is not 0, a text when it is "true" in any case.
     bool as_boolean() const;
-    /// Day; empty or a value of another kind is "no date".
+    /// Day, of a timestamp its day; empty or a value of another kind is "no date".
     base::Datum as_date() const;
+    /// Point in time, of a day its midnight; empty or a value of another kind is "no time".
     base::DatumCas as_timestamp() const;
 
     using Variant = std::variant<std::monostate, std::int64_t, double, bool, std::string,
