@@ -1,5 +1,17 @@
-// The payroll's SQL dialect, translated into the engine's SQL. Pure text work: a tokenizer, a
-// parser of the subset that the program uses, and a writer of the engine's form.
+// The payroll's SQL dialect, translated into the engine's SQL. Pure text work: a tokenizer
+// (sql_lexer), a parser of the subset that the program uses (sql_parser, its tree in sql_ast), and
+// a writer of the engine's form (sql_writer). What every construct gives is pinned by the text
+// files in tests/store/dialect. Rules that the grammar does not show:
+//
+//   - A text in double quotes is a table's name where one is expected, a text elsewhere.
+//   - A name that both tables of a join have belongs to the first one; in "*" the second one's
+//   field
+//     is then called "Pocitadlo_1".
+//   - An empty text and an empty field are the same. A literal is read as the type of the field
+//     beside it: '1.2.2022' is a day beside a date.
+//   - "+" joins when one side is a text. "/" never divides as whole numbers.
+//   - Rows come in the order of entry; ORDER BY keeps it among equal rows.
+//   - A text computed for a field is cut to its length; a literal too long is refused.
 #pragma once
 
 #include <functional>

@@ -1,5 +1,6 @@
 #include "store/engine_sql.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <fmt/format.h>
@@ -133,6 +134,24 @@ std::string create_index_sql(const TableDef& table, const IndexDef& index) {
     return fmt::format("CREATE {}INDEX {} ON {} ({}){}", distinct ? "UNIQUE " : "",
                        in_quotes(index_name(name, index)), in_quotes(name),
                        collated_fields(table, index), row_key ? " WHERE 0" : "");
+}
+
+std::vector<std::string> own_indexes_sql(const TableDef& table) {
+    const std::string name = bare_table_name(table.name);
+    std::vector<std::string> statements;
+    for (const char* worker_number : {"Cislo_pracovnika", "Cislo"}) {
+        const int position = table.field_index(worker_number);
+        if (position < 0) continue;
+        const FieldDef& field = table.fields[static_cast<std::size_t>(position)];
+        const bool led = std::ranges::any_of(table.indexes, [&](const IndexDef& index) {
+            return !index.fields.empty() && same_name(index.fields[0], field.name);
+        });
+        if (led || field.type != FieldType::int32) continue;
+        statements.push_back(fmt::format("CREATE INDEX {} ON {} ({})",
+                                         in_quotes(name + ".own." + field.name), in_quotes(name),
+                                         in_quotes(field.name)));
+    }
+    return statements;
 }
 
 std::string order_of_index(const TableDef& table, const IndexDef* index) {

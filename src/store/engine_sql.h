@@ -12,6 +12,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "store/definition.h"
 
@@ -40,6 +41,10 @@ std::string index_name(std::string_view table, const IndexDef& index);
 /// is not of the table's layout (one that the store added for speed).
 std::optional<IndexDef> index_from_name(std::string_view table, std::string_view engine_name);
 std::string create_index_sql(const TableDef& table, const IndexDef& index);
+
+/// Statements making the store's own indexes, "<table>.own.<field>": tables are looked up by the
+/// worker's number all the time. A field that leads an index of the layout needs none.
+std::vector<std::string> own_indexes_sql(const TableDef& table);
 
 /// ORDER BY list of an index, ending in the row key; "_rowid_" without an index.
 std::string order_of_index(const TableDef& table, const IndexDef* index);

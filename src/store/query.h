@@ -55,7 +55,9 @@ class Query {
     base::Datum date(int column) const;
 
     Value value(std::string_view name) const { return value(column(name)); }
+    bool is_empty(std::string_view name) const { return is_empty(column(name)); }
     std::string text(std::string_view name) const { return text(column(name)); }
+    std::string_view text_view(std::string_view name) const { return text_view(column(name)); }
     std::int64_t integer(std::string_view name) const { return integer(column(name)); }
     double number(std::string_view name) const { return number(column(name)); }
     bool boolean(std::string_view name) const { return boolean(column(name)); }

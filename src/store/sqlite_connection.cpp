@@ -6,7 +6,6 @@
 #include "store/connection.h"
 #include "store/engine_sql.h"
 #include "store/sqlite_engine.h"
-#include "store/sqlite_functions.h"
 
 namespace store {
 
@@ -39,17 +38,26 @@ void rename_in_engine(Database& database, const std::string& from, const std::st
                  subject_of(from));
 }
 
-/// Makes or drops all indexes of a layout: their names in the engine begin with the table's name.
+/// All indexes of a layout and the store's own; their names in the engine begin with the table's.
 void create_indexes(Database& database, const TableDef& table) {
+    std::vector<std::string> statements = own_indexes_sql(table);
     for (const IndexDef& index : table.indexes) {
-        database.run(create_index_sql(table, index).c_str(), subject_of(table.name));
+        statements.push_back(create_index_sql(table, index));
     }
+    for (const std::string& sql : statements) database.run(sql.c_str(), subject_of(table.name));
 }
 
-void drop_indexes(Database& database, const TableDef& table) {
-    for (const IndexDef& index : table.indexes) {
-        const std::string name = index_name(table.name, index);
-        database.run(("DROP INDEX IF EXISTS " + in_quotes(name)).c_str(), subject_of(table.name));
+void drop_indexes(Connection::Engine& engine, const std::string& table) {
+    std::vector<std::string> names;
+    {
+        Statement list = engine.statement(
+            "SELECT name FROM sqlite_master WHERE type = 'index' AND tbl_name = ?1",
+            "indexy tabulky");
+        list.bind(1, std::string_view(table));
+        while (list.step()) names.emplace_back(list.text(0));
+    }
+    for (const std::string& name : names) {
+        engine.database.run(("DROP INDEX " + in_quotes(name)).c_str(), subject_of(table));
     }
 }
 
@@ -66,7 +74,7 @@ void change_layout(Connection& connection, const Translation& translation,
     Transaction transaction(connection);
     TableDef before;
     if (translation.kind == StatementKind::alter) before = engine.layout(table);
-    drop_indexes(engine.database, before);
+    if (!before.name.empty()) drop_indexes(engine, before.name);
     engine.database.run(translation.sql.c_str(), subject);
     engine.forget_layouts();
     if (translation.kind == StatementKind::alter) {
@@ -155,7 +163,7 @@ void Connection::rename_table(std::string_view from, std::string_view to) {
     }
     engine_->prepare_for_layout_change();
     Transaction transaction(*this);
-    drop_indexes(engine_->database, table);
+    drop_indexes(*engine_, table.name);
     // The engine takes a change of letter case alone for a clash, so the way leads over a third
     // name.
     if (same_name(table.name, new_name)) {

@@ -3,12 +3,14 @@
 #include <fmt/format.h>
 #include <limits>
 #include <optional>
+#include <span>
 #include <sqlite3.h>
 
 #include "store/engine_sql.h"
 #include "store/field_check.h"
 #include "store/query.h"
 #include "store/sqlite_engine.h"
+#include "store/sqlite_rows.h"
 #include "store/table.h"
 
 namespace store {
@@ -35,15 +37,14 @@ struct Table::State {
     bool at_end = true;
     bool at_begin = true;
 
-    Row current;
-    std::optional<std::int64_t> current_key;  ///< what `current` holds
-    std::int64_t current_stamp = 0;
+    std::optional<RowReader> rows;
+    Row no_row;  ///< what an empty table reads
 
     Edit editing = Edit::none;
     Row edited;
     int updates_disabled = 0;
 
-    std::optional<Statement> fetching, inserting, updating, removing;
+    std::optional<Statement> inserting, updating, removing;
 
     Connection::Engine& engine() const { return connection->engine(); }
     std::string subject() const { return subject_of(opened ? layout.name : table_name); }
@@ -108,6 +109,8 @@ void Table::State::read_layout() {
     if (!index && !index_name.empty()) refuse(fmt::format("index {} neexistuje.", index_name));
     order = order_of_index(layout, index);
     positions.clear();
+    rows.emplace(engine(), layout);
+    no_row.assign(layout.fields.size(), Value());
 }
 
 void Table::State::read_keys() {
@@ -148,25 +151,9 @@ bool Table::State::find(std::int64_t key) {
 
 /// The current row; all fields are empty when there is none, also when another way deleted it.
 const Row& Table::State::read_row() {
-    const std::int64_t stamp = engine().change_stamp();
-    if (current_key && current_key == row && current_stamp == stamp) return current;
-    current.assign(layout.fields.size(), Value());
-    current_key = row;
-    current_stamp = stamp;
-    if (!row) return current;
-    std::string list;
-    for (const FieldDef& f : layout.fields)
-        list += (list.empty() ? "" : ", ") + in_quotes(f.name);
-    Statement& statement = prepared(fetching, fmt::format("SELECT {} FROM {} WHERE _rowid_ = ?1",
-                                                          list, in_quotes(layout.name)));
-    statement.bind(1, *row);
-    if (statement.step()) {
-        for (std::size_t i = 0; i < current.size(); ++i) {
-            current[i] = statement.value(static_cast<int>(i), layout.fields[i].type);
-        }
-    }
-    statement.reset();
-    return current;
+    if (!row) return no_row;
+    const bool in_place = !keys_stale && position < keys.size() && keys[position] == *row;
+    return in_place ? rows->read(std::span(keys).subspan(position)) : rows->read({&*row, 1});
 }
 
 std::vector<std::size_t> Table::State::writable_fields() const {
@@ -262,7 +249,6 @@ void Table::open() {
     if (!s.connection) s.refuse("nemá určené spojení.");
     s.read_layout();
     s.read_keys();
-    s.current_key.reset();
     s.stand_on(0);
     ++s.engine().open_tables[folded(s.layout.name)];
     s.opened = true;
@@ -273,9 +259,8 @@ void Table::close() {
     if (!s.opened) return;
     s.editing = State::Edit::none;
     s.opened = false;
-    for (auto* statement : {&s.fetching, &s.inserting, &s.updating, &s.removing}) {
-        statement->reset();
-    }
+    for (auto* statement : {&s.inserting, &s.updating, &s.removing}) statement->reset();
+    s.rows.reset();
     auto& counts = s.engine().open_tables;
     const auto count = counts.find(folded(s.layout.name));
     if (count != counts.end() && --count->second == 0) counts.erase(count);
@@ -458,7 +443,7 @@ bool Table::go_to(Bookmark bookmark) {
 void Table::refresh() {
     state_->need_browsing();
     state_->keys_stale = true;
-    state_->current_key.reset();
+    state_->rows->forget();
     state_->ensure_keys();
 }
 
