@@ -57,7 +57,7 @@ std::string neznamy_argument(const CLI::App& program) {
 }  // namespace
 
 std::string chyba_argumentu(const CLI::App& program, const CLI::ParseError& chyba) {
-    const std::string text = chyba.what();
+    std::string text = chyba.what();
     const bool chybi_sloveso = text.starts_with("A subcommand");
     if (dynamic_cast<const CLI::ExtrasError*>(&chyba) ||
         (chybi_sloveso && program.remaining_size(true) > 0)) {

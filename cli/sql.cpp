@@ -92,6 +92,7 @@ Tabulka jako_tabulka(const store::Rows& vysledek) {
     Tabulka tabulka(std::move(sloupce));
     for (const auto& radek : vysledek.rows) {
         std::vector<std::string> bunky;
+        bunky.reserve(radek.size());
         for (const auto& hodnota : radek)
             bunky.push_back(hodnota.as_text());
         tabulka.radek(std::move(bunky));

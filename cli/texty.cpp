@@ -65,6 +65,7 @@ std::vector<std::string> podobne(std::string_view text, const std::vector<std::s
                      [](const auto& a, const auto& b) { return a.first < b.first; });
     if (nalezene.size() > 5) nalezene.resize(5);
     std::vector<std::string> vysledek;
+    vysledek.reserve(nalezene.size());
     for (auto& [rozdil, nazev] : nalezene)
         vysledek.push_back(std::move(nazev));
     return vysledek;

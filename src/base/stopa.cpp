@@ -1,10 +1,19 @@
 #include "base/stopa.h"
 
-#include <fmt/format.h>
-
 #include "base/castky_text.h"
 
 namespace base {
+namespace {
+
+/// How a step rounded and which law it follows.
+std::string okolnosti(const StopaKrok& krok) {
+    std::string text;
+    if (!krok.zaokrouhleni.empty()) text += "  [" + krok.zaokrouhleni + "]";
+    if (!krok.predpis.empty()) text += "  (" + krok.predpis + ")";
+    return text;
+}
+
+}  // namespace
 
 StopaKrok& Stopa::Zapis::krok_() {
     return stopa_.kroky_[static_cast<std::size_t>(index_)];
@@ -111,30 +120,33 @@ void Stopa::vymaz() {
 std::string Stopa::strom(int krok, int odsazeni) const {
     std::string vystup;
     if (krok < 0 || krok >= static_cast<int>(kroky_.size())) return vystup;
+    const StopaKrok& k = kroky_[static_cast<std::size_t>(krok)];
+    const std::string okraj(static_cast<std::size_t>(odsazeni), ' ');
+    vystup = okraj + k.pravidlo + " = " + k.vysledek + okolnosti(k) + "\n";
     std::vector<bool> videno(kroky_.size(), false);
-    strom_(krok, odsazeni, videno, vystup);
+    vetve(krok, okraj, videno, vystup);
     return vystup;
 }
 
-void Stopa::strom_(int krok, int odsazeni, std::vector<bool>& videno, std::string& vystup) const {
-    const auto index = static_cast<std::size_t>(krok);
-    const auto& k = kroky_[index];
-    const std::string okraj(static_cast<std::size_t>(odsazeni), ' ');
-    vystup += fmt::format("{}{} = {}", okraj, k.pravidlo, k.vysledek);
-    if (videno[index]) {
-        vystup += "  (rozepsáno výše)\n";
-        return;
-    }
-    videno[index] = true;
-    if (!k.zaokrouhleni.empty()) vystup += fmt::format("  [{}]", k.zaokrouhleni);
-    if (!k.predpis.empty()) vystup += fmt::format("  ({})", k.predpis);
-    vystup += '\n';
-    for (const auto& vstup : k.vstupy) {
-        vystup += fmt::format("{}  - {}", okraj, vstup.nazev);
-        if (!vstup.hodnota.empty()) vystup += fmt::format(": {}", vstup.hodnota);
-        if (!vstup.zdroj.empty()) vystup += fmt::format("  <- {}", vstup.zdroj);
-        vystup += '\n';
-        if (vstup.krok >= 0) strom_(vstup.krok, odsazeni + 6, videno, vystup);
+void Stopa::vetve(int krok, const std::string& okraj, std::vector<bool>& videno,
+                  std::string& vystup) const {
+    videno[static_cast<std::size_t>(krok)] = true;
+    const auto& vstupy = kroky_[static_cast<std::size_t>(krok)].vstupy;
+    for (std::size_t i = 0; i < vstupy.size(); ++i) {
+        const StopaVstup& vstup = vstupy[i];
+        const bool posledni = i + 1 == vstupy.size();
+        vystup += okraj + (posledni ? "└─ " : "├─ ") + vstup.nazev;
+        if (!vstup.hodnota.empty()) vystup += " = " + vstup.hodnota;
+        if (!vstup.zdroj.empty()) vystup += "  ← " + vstup.zdroj;
+        if (vstup.krok < 0) {
+            vystup += '\n';
+            continue;
+        }
+        const StopaKrok& puvod = kroky_[static_cast<std::size_t>(vstup.krok)];
+        if (puvod.pravidlo != vstup.nazev) vystup += ": " + puvod.pravidlo;
+        const bool znovu = videno[static_cast<std::size_t>(vstup.krok)];
+        vystup += (znovu ? "  (viz výše)" : okolnosti(puvod)) + "\n";
+        if (!znovu) vetve(vstup.krok, okraj + (posledni ? "   " : "│  "), videno, vystup);
     }
 }
 

@@ -87,7 +87,8 @@ class Stopa {
     const std::vector<StopaKrok>& kroky() const { return kroky_; }
     void vymaz();
 
-    /// The tree under one step as indented text lines; a step met again is only referred to. ""
+    /// The tree under one step as lines of text with drawn branches; a step met again is only
+    /// referred to. ""
     /// when there is no such step.
     std::string strom(int krok, int odsazeni = 0) const;
 
@@ -98,7 +99,8 @@ class Stopa {
         int krok = -1;  // step made for the contributions so far; -1 when one came after it
     };
     Soucet& soucet_promenne(std::string_view promenna);
-    void strom_(int krok, int odsazeni, std::vector<bool>& videno, std::string& vystup) const;
+    void vetve(int krok, const std::string& okraj, std::vector<bool>& videno,
+               std::string& vystup) const;
 
     std::vector<StopaKrok> kroky_;
     std::map<std::string, int, std::less<>> promenne_;

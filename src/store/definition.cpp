@@ -31,21 +31,21 @@ int TableDef::field_index(std::string_view field) const {
 std::string type_in_words(const FieldDef& field) {
     switch (field.type) {
         case FieldType::autoincrement:
-            return "autoincrement";
+            return "pořadové číslo";
         case FieldType::int16:
-            return "int16";
+            return "celé číslo -32768 až 32767";
         case FieldType::int32:
-            return "int32";
+            return "celé číslo -2147483648 až 2147483647";
         case FieldType::number:
-            return "number";
+            return "číslo";
         case FieldType::boolean:
-            return "boolean";
+            return "logická hodnota";
         case FieldType::date:
-            return "date";
+            return "datum";
         case FieldType::timestamp:
-            return "timestamp";
+            return "datum a čas";
         case FieldType::text:
-            return fmt::format("text({})", field.size);
+            return fmt::format("text, nejvýše {} znaků kódové stránky 1250", field.size);
     }
     return "?";
 }

@@ -45,7 +45,7 @@ struct TableDef {
     bool operator==(const TableDef&) const = default;
 };
 
-/// "int16", "text(30)": what an error message says was expected.
+/// What a Czech error message says a field takes: "celé číslo -32768 až 32767".
 std::string type_in_words(const FieldDef& field);
 
 /// True when two names of tables, fields or indexes are the same: letters a to z compare without

@@ -44,7 +44,8 @@ void create_indexes(Database& database, const TableDef& table) {
     for (const IndexDef& index : table.indexes) {
         statements.push_back(create_index_sql(table, index));
     }
-    for (const std::string& sql : statements) database.run(sql.c_str(), subject_of(table.name));
+    for (const std::string& sql : statements)
+        database.run(sql.c_str(), subject_of(table.name));
 }
 
 void drop_indexes(Connection::Engine& engine, const std::string& table) {
@@ -54,7 +55,8 @@ void drop_indexes(Connection::Engine& engine, const std::string& table) {
             "SELECT name FROM sqlite_master WHERE type = 'index' AND tbl_name = ?1",
             "indexy tabulky");
         list.bind(1, std::string_view(table));
-        while (list.step()) names.emplace_back(list.text(0));
+        while (list.step())
+            names.emplace_back(list.text(0));
     }
     for (const std::string& name : names) {
         engine.database.run(("DROP INDEX " + in_quotes(name)).c_str(), subject_of(table));

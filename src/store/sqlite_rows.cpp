@@ -23,7 +23,8 @@ std::string select_sql(const TableDef& layout) {
 
 RowReader::RowReader(Connection::Engine& engine, const TableDef& layout)
     : engine_(engine), statement_(engine.statement(select_sql(layout), subject_of(layout.name))) {
-    for (const FieldDef& field : layout.fields) types_.emplace_back(field.type);
+    for (const FieldDef& field : layout.fields)
+        types_.emplace_back(field.type);
 }
 
 const Row& RowReader::read(std::span<const std::int64_t> keys) {
@@ -48,7 +49,8 @@ void RowReader::load(std::span<const std::int64_t> keys) {
     if (keys.size() > 1) lock.step();
     keys_.clear();
     if (rows_.size() < keys.size()) rows_.resize(keys.size());
-    for (std::size_t i = 0; i < keys.size(); ++i) read_one(keys[i], rows_[i]);
+    for (std::size_t i = 0; i < keys.size(); ++i)
+        read_one(keys[i], rows_[i]);
     keys_.assign(keys.begin(), keys.end());
     last_ = 0;
     stamp_ = engine_.change_stamp();

@@ -259,7 +259,8 @@ void Table::close() {
     if (!s.opened) return;
     s.editing = State::Edit::none;
     s.opened = false;
-    for (auto* statement : {&s.inserting, &s.updating, &s.removing}) statement->reset();
+    for (auto* statement : {&s.inserting, &s.updating, &s.removing})
+        statement->reset();
     s.rows.reset();
     auto& counts = s.engine().open_tables;
     const auto count = counts.find(folded(s.layout.name));

@@ -20,10 +20,9 @@ TEST(Stopa, KrokOdkazujeNaPuvodSvychVstupu) {
     EXPECT_EQ(stopa.kroky()[static_cast<std::size_t>(pojistne)].vstupy[0].krok, zaklad);
     EXPECT_EQ(stopa.strom(pojistne),
               "sociální pojištění = 1300  [na koruny nahoru]  (§ 7 zák. č. 589/1992 Sb.)\n"
-              "  - základ: 20000\n"
-              "      základ sociálního pojištění = 20000\n"
-              "        - druh: 1  <- Os_karty.Jake_socialni\n"
-              "  - sazba %: 6,5  <- rid_zorv.idx proc_soc_pracovnik\n");
+              "├─ základ = 20000: základ sociálního pojištění\n"
+              "│  └─ druh = 1  ← Os_karty.Jake_socialni\n"
+              "└─ sazba % = 6,5  ← rid_zorv.idx proc_soc_pracovnik\n");
 }
 
 TEST(Stopa, SoucetOdkazujeNaSvePrispevky) {
@@ -34,9 +33,8 @@ TEST(Stopa, SoucetOdkazujeNaSvePrispevky) {
     stopa.pricti("srazky_soucet", "spoření", "Fixni.Kcs", 200.5L);
     EXPECT_EQ(stopa.strom(stopa.krok_promenne("srazky_soucet", 1500.5L)),
               "srážky celkem = 1500,5\n"
-              "  - sociální: 1300\n"
-              "      sociální pojištění = 1300\n"
-              "  - spoření: 200,5  <- Fixni.Kcs\n");
+              "├─ sociální = 1300: sociální pojištění\n"
+              "└─ spoření = 200,5  ← Fixni.Kcs\n");
 }
 
 TEST(Stopa, SoucetPoDalsimPrispevkuJeNovyKrok) {
@@ -60,9 +58,8 @@ TEST(Stopa, PosledniZapisRozhodujeCoPromennaJe) {
     stopa.pricti("x", "další", "Hrube01", 2);
     EXPECT_EQ(stopa.strom(stopa.krok_promenne("x", 7)),
               "blokovaná hodnota = 7\n"
-              "  - dosavadní hodnota: 5\n"
-              "      blokovaná hodnota = 5\n"
-              "  - další: 2  <- Hrube01\n");
+              "├─ dosavadní hodnota = 5: blokovaná hodnota\n"
+              "└─ další = 2  ← Hrube01\n");
 }
 
 TEST(Stopa, PodruheSeNaKrokJenOdkaze) {
@@ -72,11 +69,9 @@ TEST(Stopa, PodruheSeNaKrokJenOdkaze) {
         stopa.krok("rozdíl").z("menšenec", "z", 10).z("menšitel", "z", 10).vysledek("r", 0);
     EXPECT_EQ(stopa.strom(k),
               "rozdíl = 0\n"
-              "  - menšenec: 10\n"
-              "      základ = 10\n"
-              "        - z karty: 1  <- Os_karty\n"
-              "  - menšitel: 10\n"
-              "      základ = 10  (rozepsáno výše)\n");
+              "├─ menšenec = 10: základ\n"
+              "│  └─ z karty = 1  ← Os_karty\n"
+              "└─ menšitel = 10: základ  (viz výše)\n");
 }
 
 TEST(Stopa, NeznamyKrokNemaStrom) {

@@ -32,12 +32,14 @@ TEST_F(Tabulky, VadnyImportNicNezmeni) {
         std::string tabulka, csv;
         std::vector<std::string> v_textu;
     } pripady[] = {
-        {"Os_karty", "Cislo,Prijmeni\n20,Dobrý\nxx,Špatný\n", {"3", "Cislo", "int32"}},
-        {"Os_karty", "Cislo,Osamela_osoba\n20,možná\n", {"2", "Osamela_osoba"}},
-        {"Os_karty", "Cislo,Jmeno\n20,Jméno delší než dvacet znaků\n", {"Jmeno", "text(20)"}},
+        {"Os_karty", "Cislo,Prijmeni\n20,Dobrý\nxx,Špatný\n", {"řádek 3", "Cislo", "celé číslo"}},
+        {"Os_karty", "Cislo,Osamela_osoba\n20,možná\n", {"řádek 2", "Osamela_osoba"}},
+        {"Os_karty",
+         "Cislo,Jmeno\n20,Jméno delší než dvacet znaků\n",
+         {"Jmeno", "nejvýše 20 znaků"}},
         {"Os_karty", "Cislo,Vek\n20,30\n", {"Vek"}},
         {"Os_karty", "Cislo,Jmeno\n20,\"bez konce\n", {"2"}},
-        {"Hrube02", "Cislo_pracovnika,Kc_cel\n7,1 000\n", {"Kc_cel", "number"}},
+        {"Hrube02", "Cislo_pracovnika,Kc_cel\n7,1 000\n", {"řádek 2", "Kc_cel", "číslo"}},
     };
     for (const auto& pripad : pripady) {
         const auto vysledek = spust({"import", pripad.tabulka, "-", "--nahradit"}, pripad.csv);

@@ -201,6 +201,30 @@ TEST_F(EngineTable, BookmarkSurvivesMovesAndRefresh) {
     EXPECT_TRUE(table.locate("Prijmeni", "d"));
 }
 
+// Rows are read some ahead, which must never show: neither old values nor those of another row.
+TEST_F(EngineTable, LongWalkSeesEveryChangeMadeOnItsWay) {
+    std::vector<Value> numbers;
+    for (int i = 1; i <= 300; ++i) numbers.emplace_back(i);
+    add("Lide", "Cislo", numbers);
+    Table table;
+    open(table, "Lide");
+    Transaction transaction(data);
+    for (int i = 1; i <= 300; ++i, table.next()) {
+        ASSERT_EQ(table.integer("Cislo"), i > 100 ? i + 1000 : i);
+        if (i == 100) data.execute("UPDATE Lide SET Cislo = Cislo + 1000 WHERE Cislo > 100");
+        if (i % 7 != 0) continue;
+        table.edit();
+        table.set("Kc", i);
+        table.post();
+        ASSERT_EQ(table.number("Kc"), i);
+    }
+    EXPECT_TRUE(table.eof());
+    for (int i = 300; i >= 1; --i, table.prior()) {
+        ASSERT_EQ(table.number("Kc"), i % 7 == 0 ? i : 0);
+    }
+    EXPECT_TRUE(table.bof());
+}
+
 TEST_F(EngineTable, CounterIsNeverReused) {
     add("Lide", "Prijmeni", {"A", "B", "C"});
     execute("DELETE FROM Lide WHERE Pocitadlo = 3");
