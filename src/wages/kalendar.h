@@ -17,7 +17,8 @@ using MesicKalendare = std::array<int, 31>;
 /// Minutes of work of the twelve months.
 using RokKalendare = std::array<MesicKalendare, 12>;
 
-/// One month's text of "h:mm" cells separated by ";" to minutes; missing or unreadable cells are 0.
+/// One month's text of "h:mm" cells separated by ";" to minutes; missing or unreadable cells are 0,
+/// a cell past 24:00 counts as it is written.
 MesicKalendare mesic_z_textu(std::string_view text);
 /// The text of 31 cells "h:mm", as it is stored.
 std::string mesic_na_text(const MesicKalendare& mesic);

@@ -204,7 +204,8 @@ TEST_F(EngineTable, BookmarkSurvivesMovesAndRefresh) {
 // Rows are read some ahead, which must never show: neither old values nor those of another row.
 TEST_F(EngineTable, LongWalkSeesEveryChangeMadeOnItsWay) {
     std::vector<Value> numbers;
-    for (int i = 1; i <= 300; ++i) numbers.emplace_back(i);
+    for (int i = 1; i <= 300; ++i)
+        numbers.emplace_back(i);
     add("Lide", "Cislo", numbers);
     Table table;
     open(table, "Lide");
