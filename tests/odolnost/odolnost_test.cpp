@@ -51,11 +51,9 @@ std::string obsah(const fs::path& slozka, const std::string& tabulka) {
 /// The company's payroll folder with an untouched copy beside it, to which every trial returns.
 class Odolnost : public ::testing::Test {
   protected:
-    void pripravena() { fs::copy(firma().slozka.cesta(), puvodni(), fs::copy_options::recursive); }
-    void obnov() {
-        fs::remove_all(zkousena());
-        fs::copy(puvodni(), zkousena(), fs::copy_options::recursive);
-    }
+    void pripravena() { prekopiruj(firma().slozka.cesta(), puvodni()); }
+    void obnov() { prekopiruj(puvodni(), zkousena()); }
+    void zapamatuj() { prekopiruj(zkousena(), puvodni()); }
     ZkusebniFirma& firma() { return *firma_; }
     void zavri_firmu() { firma_->session.zavri_spojeni(); }
     fs::path puvodni() const { return dilna_ / "puvodni"; }
@@ -123,6 +121,10 @@ class Odolnost : public ::testing::Test {
     DocasnaSlozka dilna_;
 
   private:
+    static void prekopiruj(const fs::path& odkud, const fs::path& kam) {
+        fs::remove_all(kam);
+        fs::copy(odkud, kam, fs::copy_options::recursive);
+    }
     const FaultyDisk sleduj_{Fault::none, 0};
     std::unique_ptr<ZkusebniFirma> firma_ = std::make_unique<ZkusebniFirma>();
 };
@@ -178,8 +180,7 @@ class OdolnostVypoctu : public Odolnost {
         obnov();
         vypocti();
 
-        fs::remove_all(puvodni());
-        fs::copy(zkousena(), puvodni(), fs::copy_options::recursive);
+        zapamatuj();
         stare_ = obsah(zorv(), "Listin01");
         ASSERT_NE(stare_, "není");
         {
@@ -188,8 +189,7 @@ class OdolnostVypoctu : public Odolnost {
             data.execute("UPDATE Hrube01 SET Kc_cel = 30000");
             zmena.commit();
         }
-        fs::remove_all(puvodni());
-        fs::copy(zkousena(), puvodni(), fs::copy_options::recursive);
+        zapamatuj();
         vypocti();
         nove_ = obsah(zorv(), "Listin01");
         ASSERT_NE(stare_, nove_);
