@@ -1,11 +1,10 @@
-// How long a month's pay run takes, against the bare insertion of the same rows into the same table.
+// How long a month's pay run takes, against the bare insertion of the same rows into the same
+// table.
 //
 //     bench_vyplaty [workers...]        (1000 10000 when none are given)
 //
 // Each worker has five gross rows, two fixed items and a child. The two measured works alternate
 // and the best of the repeats counts, so that a busy machine disturbs the ratio little.
-#include <sqlite3.h>
-
 #include <algorithm>
 #include <chrono>
 #include <cstdlib>
@@ -13,6 +12,7 @@
 #include <fmt/format.h>
 #include <fstream>
 #include <limits>
+#include <sqlite3.h>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -142,11 +142,11 @@ class Firma {
     }
 
     static void vloz_karty(store::Connection& data, int pracovniku) {
-        store::Inserter k(data, "Os_karty",
-                          {"Cislo", "Prijmeni", "Jmeno", "Ulice", "Bydliste", "Rodne_cislo",
-                           "Jake_socialni", "Jake_zdravotni", "Jaka_dan", "tpd", "Zamestnanec",
-                           "Odp_poplatnik", "Cislo_zdrav_poj", "Volit_1", "PdovD4min",
-                           "Prum_nemoc_1"});
+        store::Inserter k(
+            data, "Os_karty",
+            {"Cislo", "Prijmeni", "Jmeno", "Ulice", "Bydliste", "Rodne_cislo", "Jake_socialni",
+             "Jake_zdravotni", "Jaka_dan", "tpd", "Zamestnanec", "Odp_poplatnik", "Cislo_zdrav_poj",
+             "Volit_1", "PdovD4min", "Prum_nemoc_1"});
         for (int cislo = 1; cislo <= pracovniku; ++cislo) {
             k.set(0, cislo);
             k.set(1, "Dvořáková");
@@ -154,7 +154,8 @@ class Firma {
             k.set(3, "Dlouhá 123/45");
             k.set(4, "Žďár nad Sázavou");
             k.set(5, "75-51-01/1234");
-            for (std::size_t kod = 6; kod <= 8; ++kod) k.set(kod, 1);
+            for (std::size_t kod = 6; kod <= 8; ++kod)
+                k.set(kod, 1);
             k.set(9, 40.0);
             k.set(10, true);
             k.set(11, 2570);
@@ -171,10 +172,14 @@ class Firma {
             int modul, sloupec;
             double hodin, kc;
         };
-        const Radek radky[] = {
-            {1, 1, 152, 24350.5}, {1, 1, 8, 1200}, {1, 2, 0, 2500.4}, {3, 4, 0, 900.2}, {5, 7, 0, 1500}};
-        store::Inserter h(data, "Hrube01", {"Mesic", "Cislo_pracovnika", "Modul", "Sloupec",
-                                            "Sloupec_slovy", "Hod_od", "Dny_neod", "Kc_cel"});
+        const Radek radky[] = {{1, 1, 152, 24350.5},
+                               {1, 1, 8, 1200},
+                               {1, 2, 0, 2500.4},
+                               {3, 4, 0, 900.2},
+                               {5, 7, 0, 1500}};
+        store::Inserter h(data, "Hrube01",
+                          {"Mesic", "Cislo_pracovnika", "Modul", "Sloupec", "Sloupec_slovy",
+                           "Hod_od", "Dny_neod", "Kc_cel"});
         for (int cislo = 1; cislo <= pracovniku; ++cislo) {
             for (const Radek& r : radky) {
                 h.set(0, 1);
@@ -203,8 +208,9 @@ class Firma {
     }
 
     static void vloz_deti(store::Connection& data, int pracovniku) {
-        store::Inserter d(data, "Deti", {"Cislo_pracovnika", "Prijmeni", "Jmeno", "Bydliste",
-                                         "Rodne_cislo", "Odpocitatelna_dan"});
+        store::Inserter d(data, "Deti",
+                          {"Cislo_pracovnika", "Prijmeni", "Jmeno", "Bydliste", "Rodne_cislo",
+                           "Odpocitatelna_dan"});
         for (int cislo = 1; cislo <= pracovniku; ++cislo) {
             d.set(0, cislo);
             d.set(1, "Dvořák");
@@ -255,7 +261,8 @@ struct Predloha {
     std::vector<std::vector<sqlite3_value*>> vety;
     ~Predloha() {
         for (auto& veta : vety) {
-            for (sqlite3_value* hodnota : veta) sqlite3_value_free(hodnota);
+            for (sqlite3_value* hodnota : veta)
+                sqlite3_value_free(hodnota);
         }
     }
     Predloha() = default;
@@ -288,9 +295,11 @@ void nacti_predlohu(const fs::path& soubor, Predloha& predloha) {
 double zmer_hole_vkladani(const Predloha& predloha, const fs::path& soubor) {
     fs::remove(soubor);
     HolaDatabaze cil(soubor);
-    for (const std::string& sql : predloha.definice) cil.proved(sql);
+    for (const std::string& sql : predloha.definice)
+        cil.proved(sql);
     std::string otazniky;
-    for (std::size_t i = 0; i < predloha.vety.at(0).size(); ++i) otazniky += i == 0 ? "?" : ",?";
+    for (std::size_t i = 0; i < predloha.vety.at(0).size(); ++i)
+        otazniky += i == 0 ? "?" : ",?";
     return sekundy([&] {
         cil.proved("BEGIN IMMEDIATE");
         sqlite3_stmt* vloz =
@@ -340,7 +349,8 @@ void zmer(int pracovniku) {
 int main(int argc, char** argv) {
     try {
         std::vector<int> pocty;
-        for (int i = 1; i < argc; ++i) pocty.push_back(std::atoi(argv[i]));
+        for (int i = 1; i < argc; ++i)
+            pocty.push_back(std::atoi(argv[i]));
         if (pocty.empty()) pocty = {1000, 10000};
         fmt::print("{:>9} {:>9} {:>9} {:>9} {:>7} {:>14} {:>10}\n", "workers", "rows", "run_s",
                    "raw_s", "ratio", "us_per_worker", "peak_mib");

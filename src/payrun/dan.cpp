@@ -170,14 +170,13 @@ Castka odborovy_prispevek(int cislo, Castka cisty, const shell::RidiciZorv& ridi
                           base::Stopa* stopa) {
     const bool prvni = cislo >= ridici.os_interval1_od && cislo <= ridici.os_interval1_do;
     const bool druhy = cislo >= ridici.os_interval2_od && cislo <= ridici.os_interval2_do;
-    const Castka sazba = prvni ? z_ulozeneho(ridici.os_sazba1)
-                               : (druhy ? z_ulozeneho(ridici.os_sazba2) : Castka{0});
+    const Castka sazba =
+        prvni ? z_ulozeneho(ridici.os_sazba1) : (druhy ? z_ulozeneho(ridici.os_sazba2) : Castka{0});
     const Castka castka = prispevek_podle_sazby(cisty, sazba);
     if (stopa) {
         auto krok = stopa->krok("příspěvek odborovému svazu");
         krok.z("čistý příjem", "cisty_pro_odbory", cisty)
-            .nastaveni("sazba", sazba,
-                       prvni ? "rid_zorv.idx os_sazba1" : "rid_zorv.idx os_sazba2");
+            .nastaveni("sazba", sazba, prvni ? "rid_zorv.idx os_sazba1" : "rid_zorv.idx os_sazba2");
         if (!prvni && !druhy) krok.vetev("číslo pracovníka neleží v žádném intervalu");
         if (sazba < 1) krok.zaokrouhleni(base::odriznout);
         krok.vysledek("odborovy_prispevek", castka);

@@ -35,7 +35,7 @@ struct DilciDane {
 
 struct DanPredSlevou {
     Castka dan = 0;
-    std::string text;     ///< beginning of the note of the tax row; "" when no rule applied
+    std::string text;       ///< beginning of the note of the tax row; "" when no rule applied
     bool zalohova = false;  ///< the advance was computed: `dilci` holds its parts
     DilciDane dilci;
 };
@@ -48,8 +48,7 @@ DanPredSlevou dan_kc(JakaDan kod, Castka zaklad_dane, Castka prijem_pro_dan,
 /// A negative tax is a bonus. It falls away when the income is under half of the minimum wage and
 /// when it is under 50 crowns; it is cut at the largest monthly bonus. `prijem` is the gross wage
 /// with the wage in kind. § 35d zák. č. 586/1992 Sb.
-Castka dan_po_pravidlech_bonusu(Castka dan, Castka prijem, int minimalni_mzda,
-                                int bonus_maximalni);
+Castka dan_po_pravidlech_bonusu(Castka dan, Castka prijem, int minimalni_mzda, int bonus_maximalni);
 
 /// "1", "2" or "3" by the place of the amount among the three of the settings ("3" when it is none
 /// of them), "" for no relief.

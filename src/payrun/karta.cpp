@@ -80,7 +80,8 @@ Karta karta_z_vety(const store::Query& dotaz) {
     k.odp_ostatni = veta.cislo();
     k.tpd = veta.castka();
     k.staly_plat = veta.cislo();
-    for (int& os_oh : k.os_oh) os_oh = veta.cislo();
+    for (int& os_oh : k.os_oh)
+        os_oh = veta.cislo();
     k.kratit_plat = veta.ano();
     k.id_rpd = veta.cislo();
     k.stredisko = veta.cislo();
@@ -91,7 +92,8 @@ Karta karta_z_vety(const store::Query& dotaz) {
     k.cislo_penz_fondu = veta.cislo();
     k.penz_fond_sazba = veta.castka();
     k.penz_fond_smlouva = veta.castka();
-    for (auto& volit : k.volit) volit = veta.cislo_nebo_nic();
+    for (auto& volit : k.volit)
+        volit = veta.cislo_nebo_nic();
     k.prumer_na_nemoc = veta.castka();
     k.prumer_na_dovolenou = veta.castka();
     return k;

@@ -21,7 +21,8 @@ class PodlePracovnika {
         const auto od = std::lower_bound(radky_.begin(), radky_.end(), cislo,
                                          [](const Radek& r, int c) { return r.cislo < c; });
         auto do_ = od;
-        while (do_ != radky_.end() && do_->cislo == cislo) ++do_;
+        while (do_ != radky_.end() && do_->cislo == cislo)
+            ++do_;
         return {od, do_};
     }
 

@@ -17,7 +17,8 @@ bool jde_do(const shell::Nastaveni& nastaveni, RadekVyjimek radek, int sloupec) 
 }
 
 Castka cela_hruba_pri_shode(Castka do_zakladu, Castka hruba_mzda) {
-    const Castka rozdil = do_zakladu < hruba_mzda ? hruba_mzda - do_zakladu : do_zakladu - hruba_mzda;
+    const Castka rozdil =
+        do_zakladu < hruba_mzda ? hruba_mzda - do_zakladu : do_zakladu - hruba_mzda;
     return rozdil < k_shoda_s_hrubou ? hruba_mzda : do_zakladu;
 }
 
@@ -177,9 +178,8 @@ Castka zaklad_zdravotniho_pojisteni(const ZdravotniPodminky& podminky, Castka hr
 }
 
 Castka zdravotni_pojisteni_Kc(Zdravotni kod, Castka zaklad, Castka sazba, base::Stopa* stopa) {
-    const bool neplati =
-        (kod == Zdravotni::maly_rozsah && zaklad < k_hranice_maleho_rozsahu) ||
-        kod == Zdravotni::neplati;
+    const bool neplati = (kod == Zdravotni::maly_rozsah && zaklad < k_hranice_maleho_rozsahu) ||
+                         kod == Zdravotni::neplati;
     const Castka castka =
         neplati ? 0 : base::zdravotni_na_koruny(bez_sumu(base::procenta(zaklad, sazba)));
     if (stopa) {

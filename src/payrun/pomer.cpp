@@ -5,11 +5,11 @@
 namespace payrun {
 
 MezPomeru mez_pomeru(std::string_view text) {
-    if (!base::neprazdny(text)) return {};
-    const std::string doplneny = base::dopln_nuly_data(base::orez(text));
-    const base::Datum den{.rok = base::je_cele_cislo(base::znaky(doplneny, 7, 4)),
-                          .mesic = base::je_cele_cislo(base::znaky(doplneny, 4, 2)),
-                          .den = base::je_cele_cislo(base::znaky(doplneny, 1, 2))};
+    const std::vector<std::string> casti = base::rozdel_text(text, '.');
+    if (casti.size() != 3) return {};
+    const base::Datum den{.rok = base::je_cele_cislo(casti[2]),
+                          .mesic = base::je_cele_cislo(casti[1]),
+                          .den = base::je_cele_cislo(casti[0])};
     if (den.rok <= 0 || den.mesic <= 0 || den.den <= 0) return {};
     return {true, den};
 }

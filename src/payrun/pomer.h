@@ -14,8 +14,8 @@ struct MezPomeru {
     base::Datum den;
 };
 
-/// Reads d.m.yyyy by position (characters 1-2, 4-5, 7-10 after padding day and month by "0"). A
-/// blank text, and one where any of the three is no number above zero, means no limit.
+/// Reads d.m.yyyy, day and month with or without a leading "0". A blank text, and one that is not
+/// three numbers above zero, means no limit.
 MezPomeru mez_pomeru(std::string_view text);
 
 /// The employment of one card: `Zam_od` and `Zam_do`.

@@ -33,9 +33,9 @@ void PracovnikMesice::zapis_socialni() {
     const VybranaHodnota zaklad =
         vyber(blok_->socialni_zaklad, "socialni_zaklad", "socialni_zaklad", z);
     slozeni_poznamky(poznamka_, static_cast<int>(kod), zaklad.znacka);
-    zaklady.socialni += zapis({61, 0, "sociální pojištění základ", zaklad.hodnota, poznamka_,
-                               "socialni_zaklad"})
-                            .value_or(0);
+    zaklady.socialni +=
+        zapis({61, 0, "sociální pojištění základ", zaklad.hodnota, poznamka_, "socialni_zaklad"})
+            .value_or(0);
 
     const Castka sazba = kod == Socialni::druhy_pilir ? nastaveni.DruhyPilirPrac
                                                       : z_ulozeneho(ridici.proc_soc_pracovnik);
@@ -43,8 +43,9 @@ void PracovnikMesice::zapis_socialni() {
         vyber(blok_->socialni, "socialni", "socialni_kc",
               socialni_pojisteni_Kc(kod, zaklad.hodnota, sazba, stopa_));
     u_.socialni_kc = pojistne.hodnota;
-    pricti(u_.srazky_soucet, "srazky_soucet", u_.socialni_kc,
-           [] { return std::pair{"sociální pojištění", "socialni_kc"}; });
+    pricti(u_.srazky_soucet, "srazky_soucet", u_.socialni_kc, [] {
+        return std::pair{"sociální pojištění", "socialni_kc"};
+    });
     slozeni_poznamky(poznamka_, static_cast<int>(kod), pojistne.znacka);
     zapis({7, ridici.modul7, "sociální pojištění Kč", u_.socialni_kc, poznamka_, "socialni_kc"});
     if (kod != Socialni::druhy_pilir) return;
@@ -54,8 +55,9 @@ void PracovnikMesice::zapis_socialni() {
         vyber(blok_->socialni, "socialni", "druhy_pilir_kc",
               druhy_pilir_Kc(zaklad.hodnota, nastaveni.DruhyPilirPF, stopa_));
     u_.socialni_kc = pilir.hodnota;
-    pricti(u_.srazky_soucet, "srazky_soucet", u_.socialni_kc,
-           [] { return std::pair{"2. pilíř", "druhy_pilir_kc"}; });
+    pricti(u_.srazky_soucet, "srazky_soucet", u_.socialni_kc, [] {
+        return std::pair{"2. pilíř", "druhy_pilir_kc"};
+    });
     slozeni_poznamky(poznamka_, karta_->cislo_penz_fondu, pilir.znacka);
     zapis({90, 0, "2. pilíř penzijní reformy", u_.socialni_kc, poznamka_, "druhy_pilir_kc"});
 }
@@ -80,9 +82,9 @@ void PracovnikMesice::zapis_zdravotni() {
     const Karta& k = *karta_;
     ZakladyRoku& zaklady = vstupy_.zaklady(k.cislo);
 
-    const ZdravotniPodminky podminky{
-        k.jake_zdravotni, k.duchodce, k.student, static_cast<Castka>(ridici.duchodce_hranice),
-        static_cast<Castka>(nastaveni.MinimalniMzda)};
+    const ZdravotniPodminky podminky{k.jake_zdravotni, k.duchodce, k.student,
+                                     static_cast<Castka>(ridici.duchodce_hranice),
+                                     static_cast<Castka>(nastaveni.MinimalniMzda)};
     Castka z =
         zaklad_zdravotniho_pojisteni(podminky, u_.hruba_do_zdravotniho, u_.hruba_mzda, stopa_);
     z = pod_strop(z, zaklady.zdravotni, nastaveni.max_vz_zdr, "zdravotni_zaklad",
@@ -90,17 +92,18 @@ void PracovnikMesice::zapis_zdravotni() {
     const VybranaHodnota zaklad =
         vyber(blok_->zdravotni_zaklad, "zdravotni_zaklad", "zdravotni_zaklad", z);
     slozeni_poznamky(poznamka_, static_cast<int>(k.jake_zdravotni), zaklad.znacka);
-    zaklady.zdravotni += zapis({62, 0, "zdravotní pojištění základ", zaklad.hodnota, poznamka_,
-                                "zdravotni_zaklad"})
-                             .value_or(0);
+    zaklady.zdravotni +=
+        zapis({62, 0, "zdravotní pojištění základ", zaklad.hodnota, poznamka_, "zdravotni_zaklad"})
+            .value_or(0);
 
     const VybranaHodnota pojistne =
         vyber(blok_->zdravotni, "zdravotni", "zdravotni_kc",
               zdravotni_pojisteni_Kc(k.jake_zdravotni, zaklad.hodnota,
                                      z_ulozeneho(ridici.proc_zdr_pracovnik), stopa_));
     u_.zdravotni_kc = pojistne.hodnota;
-    pricti(u_.srazky_soucet, "srazky_soucet", u_.zdravotni_kc,
-           [] { return std::pair{"zdravotní pojištění", "zdravotni_kc"}; });
+    pricti(u_.srazky_soucet, "srazky_soucet", u_.zdravotni_kc, [] {
+        return std::pair{"zdravotní pojištění", "zdravotni_kc"};
+    });
     zapis({8, ridici.modul8, "zdravotní pojíštění Kč", u_.zdravotni_kc, pojistne.znacka,
            "zdravotni_kc"});
     if (base::je_nula(u_.zdravotni_kc) && base::je_nula(u_.hruba_do_zdravotniho)) return;
@@ -138,9 +141,8 @@ void PracovnikMesice::zapis_dan() {
     if (!zapisovac_.neco_zapsano()) return;
 
     const std::string pripisy = prevezmi_pripisy(zaklad, prijem);
-    const DanPredSlevou pred_slevou =
-        dan_kc(karta_->jaka_dan, zaklad, prijem, parametry_.nastaveni.limit_vydelku_srazkova,
-               stopa_);
+    const DanPredSlevou pred_slevou = dan_kc(karta_->jaka_dan, zaklad, prijem,
+                                             parametry_.nastaveni.limit_vydelku_srazkova, stopa_);
     if (pred_slevou.zalohova) stav_.dilci = pred_slevou.dilci;
     const VybranaHodnota dan = vyber(blok_->dan, "dan", "dan_pred_slevou", pred_slevou.dan);
     u_.dan_castka = dan.hodnota;
@@ -210,17 +212,20 @@ std::string PracovnikMesice::prevezmi_pripisy(Castka& zaklad, Castka& prijem) {
 // Always written; without an advance they repeat those of the last worker who had one.
 void PracovnikMesice::zapis_dilci_dane(bool teto_dane) {
     const DilciDane& d = stav_.dilci;
-    const char* zdroj = teto_dane ? "záloha tohoto pracovníka"
-                                  : "záloha pracovníka spočteného dříve (opakuje se)";
+    const char* zdroj =
+        teto_dane ? "záloha tohoto pracovníka" : "záloha pracovníka spočteného dříve (opakuje se)";
     zapis({91, 0, "dílčí základ 15%", d.zaklad_15, "", "", zdroj});
     zapis({92, 0, "dílčí základ 23%", d.zaklad_23, "", "", zdroj});
-    zapis({93, 0, "daň před slevou ze základu 15%", d.dan_15, "", teto_dane ? "dan_15" : "", zdroj});
-    zapis({94, 0, "daň před slevou ze základu 23%", d.dan_23, "", teto_dane ? "dan_23" : "", zdroj});
+    zapis(
+        {93, 0, "daň před slevou ze základu 15%", d.dan_15, "", teto_dane ? "dan_15" : "", zdroj});
+    zapis(
+        {94, 0, "daň před slevou ze základu 23%", d.dan_23, "", teto_dane ? "dan_23" : "", zdroj});
 }
 
 Castka PracovnikMesice::suma_odpocitatelnych() const {
     Castka suma = 0;
-    for (const Dite& dite : vstupy_.deti(karta_->cislo)) suma += dite.odpocitatelna_dan;
+    for (const Dite& dite : vstupy_.deti(karta_->cislo))
+        suma += dite.odpocitatelna_dan;
     return suma;
 }
 
@@ -267,9 +272,11 @@ Castka PracovnikMesice::zapis_deti() {
         poznamka_ += base::na_sirku(dite.bydliste, 30);
         poznamka_ += base::na_sirku(dite.rodne_cislo, 13);
         poznamka_ += base::castka_do_sloupce(7, 0, dite.odpocitatelna_dan);
-        zapis({88, 0, "dítě pro daňové zvýhodnění", 0, poznamka_, "", "řádek nese dítě, ne částku"});
-        pricti(sleva, "sleva_na_deti", dite.odpocitatelna_dan,
-               [&] { return std::pair{dite.jmeno, "Deti.Odpocitatelna_dan"}; });
+        zapis(
+            {88, 0, "dítě pro daňové zvýhodnění", 0, poznamka_, "", "řádek nese dítě, ne částku"});
+        pricti(sleva, "sleva_na_deti", dite.odpocitatelna_dan, [&] {
+            return std::pair{dite.jmeno, "Deti.Odpocitatelna_dan"};
+        });
     }
     return sleva;
 }
@@ -303,8 +310,9 @@ void PracovnikMesice::uzavri_dan(Castka sleva_na_deti, const std::string& text_d
         }
         krok.predpis("§ 35c a § 35d zák. č. 586/1992 Sb.").vysledek("dan_castka", u_.dan_castka);
     }
-    pricti(u_.srazky_soucet, "srazky_soucet", u_.dan_castka,
-           [] { return std::pair{"daň", "dan_castka"}; });
+    pricti(u_.srazky_soucet, "srazky_soucet", u_.dan_castka, [] {
+        return std::pair{"daň", "dan_castka"};
+    });
     poznamka_ = text_dane;
     poznamka_ += ' ';
     poznamka_ += znacka;

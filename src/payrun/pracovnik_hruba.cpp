@@ -146,29 +146,32 @@ PracovnikMesice::Fondy PracovnikMesice::fondy_pracovni_doby() {
         }
         f.rpd_odpracovano = rpd_pomeru - u_.hodiny_neodpracovane;
     }
-    if (stopa_) {
-        stopa_->krok("hodiny pracovního poměru v měsíci")
-            .udaj("pracovní dny poměru", dny_pomeru, "Os_karty.Zam_od, Zam_do")
-            .udaj("týdenní pracovní doba", k.tpd, "Os_karty.tpd")
-            .z("hodiny neodpracované", "hodiny_neodpracovane", u_.hodiny_neodpracovane)
-            .vysledek("hodiny_platu", f.odpracovano);
-        stopa_->krok("fond hodin měsíce")
-            .udaj("pracovní dny měsíce", parametry_.pracovni_dny_mesice, "kalendář měsíce")
-            .udaj("týdenní pracovní doba", k.tpd, "Os_karty.tpd")
-            .vysledek("fond_hodin_mesice", f.mesice);
-        if (k.kratit_plat) {
-            const std::string kalendar = "Rpd.Fond" + std::to_string(parametry_.mesic) +
-                                         ", Pocitadlo " + std::to_string(k.id_rpd);
-            stopa_->krok("hodiny pracovního poměru podle kalendáře")
-                .udaj("fond poměru", rpd_pomeru, kalendar)
-                .z("hodiny neodpracované", "hodiny_neodpracovane", u_.hodiny_neodpracovane)
-                .vysledek("hodiny_platu_rpd", f.rpd_odpracovano);
-            stopa_->krok("fond hodin měsíce podle kalendáře")
-                .udaj("fond měsíce", f.rpd_mesice, kalendar)
-                .vysledek("fond_hodin_rpd", f.rpd_mesice);
-        }
-    }
+    if (stopa_) stopa_fondu(f, dny_pomeru, rpd_pomeru);
     return f;
+}
+
+void PracovnikMesice::stopa_fondu(const Fondy& fondy, int dny_pomeru, Castka rpd_pomeru) {
+    const Karta& k = *karta_;
+    stopa_->krok("hodiny pracovního poměru v měsíci")
+        .udaj("pracovní dny poměru", dny_pomeru, "Os_karty.Zam_od, Zam_do")
+        .udaj("týdenní pracovní doba", k.tpd, "Os_karty.tpd")
+        .z("hodiny neodpracované", "hodiny_neodpracovane", u_.hodiny_neodpracovane)
+        .vysledek("hodiny_platu", fondy.odpracovano);
+    stopa_->krok("fond hodin měsíce")
+        .udaj("pracovní dny měsíce", parametry_.pracovni_dny_mesice, "kalendář měsíce")
+        .udaj("týdenní pracovní doba", k.tpd, "Os_karty.tpd")
+        .vysledek("fond_hodin_mesice", fondy.mesice);
+    if (k.kratit_plat) {
+        const std::string kalendar = "Rpd.Fond" + std::to_string(parametry_.mesic) +
+                                     ", Pocitadlo " + std::to_string(k.id_rpd);
+        stopa_->krok("hodiny pracovního poměru podle kalendáře")
+            .udaj("fond poměru", rpd_pomeru, kalendar)
+            .z("hodiny neodpracované", "hodiny_neodpracovane", u_.hodiny_neodpracovane)
+            .vysledek("hodiny_platu_rpd", fondy.rpd_odpracovano);
+        stopa_->krok("fond hodin měsíce podle kalendáře")
+            .udaj("fond měsíce", fondy.rpd_mesice, kalendar)
+            .vysledek("fond_hodin_rpd", fondy.rpd_mesice);
+    }
 }
 
 Castka PracovnikMesice::zkraceny_plat(Castka castka, const Fondy& fondy, const char* nazev,
@@ -194,8 +197,9 @@ void PracovnikMesice::zapis_staly_plat(const Fondy& fondy) {
     const Castka dny = dny_za_hodiny(fondy.odpracovano, k.tpd);
     const Castka pridej_dny = k.kratit_plat ? fondy.rpd_dny - u_.dny_neodpracovane : dny;
     const Castka pridej_hodiny = k.kratit_plat ? fondy.rpd_odpracovano : fondy.odpracovano;
-    pricti(u_.dny_odpracovane, "dny_odpracovane", pridej_dny,
-           [] { return std::pair{"stálý plat", "dny stálého platu"}; });
+    pricti(u_.dny_odpracovane, "dny_odpracovane", pridej_dny, [] {
+        return std::pair{"stálý plat", "dny stálého platu"};
+    });
     pricti(u_.hodiny_odpracovane, "hodiny_odpracovane", pridej_hodiny, [&] {
         return std::pair{"stálý plat", k.kratit_plat ? "hodiny_platu_rpd" : "hodiny_platu"};
     });
@@ -263,8 +267,9 @@ void PracovnikMesice::zapis_naturalni_mzdu() {
                 .zaokrouhleni(base::sloupec_na_koruny)
                 .vysledek("naturalni_do_pojisteni", do_zakladu);
         }
-        pricti(u_.naturalni_mzda, "naturalni_mzda", s.kc_cel,
-               [&] { return std::pair{nazev, "naturalni_sloupec"}; });
+        pricti(u_.naturalni_mzda, "naturalni_mzda", s.kc_cel, [&] {
+            return std::pair{nazev, "naturalni_sloupec"};
+        });
         zapis({3, s.sloupec, nazev, s.kc_cel, "", "naturalni_sloupec"});
         const auto puvod = [&] { return std::pair{nazev, "naturalni_do_pojisteni"}; };
         if (Jde_do_socialniho_pojisteni(nastaveni, s.sloupec)) {

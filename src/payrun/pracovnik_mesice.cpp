@@ -55,8 +55,7 @@ VybranaHodnota PracovnikMesice::vyber(const BlokovanaHodnota& blok, const char* 
     if (stopa_ && *vybrana.znacka != '\0') {
         stopa_->krok("blokovaná hodnota")
             .z("vypočteno", promenna, hodnota)
-            .udaj("absolutně", static_cast<Castka>(blok.abs),
-                  zdroj("Blok", pole) + "_abs")
+            .udaj("absolutně", static_cast<Castka>(blok.abs), zdroj("Blok", pole) + "_abs")
             .udaj("rozdíl", static_cast<Castka>(blok.dif), zdroj("Blok", pole) + "_dif")
             .vetev(blok.abs != 0 ? "platí pevná hodnota" : "k vypočtené hodnotě se přičítá rozdíl")
             .vysledek(promenna, vybrana.hodnota);
@@ -75,7 +74,8 @@ std::string PracovnikMesice::zdroj_radku(const HrubyRadek& radek) const {
 // The step of one column of fixed items, under the variable "fixni".
 void PracovnikMesice::stopa_fixnich(const FixniSkupina& skupina, const std::string& nazev) {
     if (!stopa_) return;
-    auto krok = stopa_->krok("fixní položky, sloupec " + std::to_string(skupina.sloupec) + " " + nazev);
+    auto krok =
+        stopa_->krok("fixní položky, sloupec " + std::to_string(skupina.sloupec) + " " + nazev);
     for (const FixniRadek& r : vstupy_.fixni(karta_->cislo)) {
         if (r.sloupec != skupina.sloupec) continue;
         krok.udaj("položka", r.kcs, "Fixni.Kcs, Pocitadlo " + std::to_string(r.pocitadlo));
@@ -108,10 +108,12 @@ void PracovnikMesice::zapis_socialni_davky() {
     // Time not worked is that of the lowest column alone.
     const auto& skupiny = vstupy_.hrube_podle_sloupcu(karta_->cislo, 4);
     if (skupiny.empty()) return;
-    pricti(u_.dny_neodpracovane, "dny_neodpracovane", skupiny.front().dny_neod,
-           [&] { return std::pair{"dávky, první sloupec", zdroj("Hrube", "Dny_neod")}; });
-    pricti(u_.hodiny_neodpracovane, "hodiny_neodpracovane", skupiny.front().hod_neod,
-           [&] { return std::pair{"dávky, první sloupec", zdroj("Hrube", "Hod_neod")}; });
+    pricti(u_.dny_neodpracovane, "dny_neodpracovane", skupiny.front().dny_neod, [&] {
+        return std::pair{"dávky, první sloupec", zdroj("Hrube", "Dny_neod")};
+    });
+    pricti(u_.hodiny_neodpracovane, "hodiny_neodpracovane", skupiny.front().hod_neod, [&] {
+        return std::pair{"dávky, první sloupec", zdroj("Hrube", "Hod_neod")};
+    });
 }
 
 void PracovnikMesice::zapis_davky_z_modulu_5() {
@@ -124,12 +126,15 @@ void PracovnikMesice::zapis_davky_z_modulu_5() {
         }
         poznamka_ = std::to_string(r.pocitadlo);
         zapis({5, r.sloupec, r.sloupec_slovy, r.kc_cel, poznamka_, "hruby_radek"});
-        pricti(u_.ostatni_davky, "ostatni_davky", r.kc_cel,
-               [&] { return std::pair{r.sloupec_slovy, "hruby_radek"}; });
-        pricti(u_.dny_neodpracovane, "dny_neodpracovane", r.dny_neod,
-               [&] { return std::pair{r.sloupec_slovy, zdroj("Hrube", "Dny_neod")}; });
-        pricti(u_.hodiny_neodpracovane, "hodiny_neodpracovane", r.hod_neod,
-               [&] { return std::pair{r.sloupec_slovy, zdroj("Hrube", "Hod_neod")}; });
+        pricti(u_.ostatni_davky, "ostatni_davky", r.kc_cel, [&] {
+            return std::pair{r.sloupec_slovy, "hruby_radek"};
+        });
+        pricti(u_.dny_neodpracovane, "dny_neodpracovane", r.dny_neod, [&] {
+            return std::pair{r.sloupec_slovy, zdroj("Hrube", "Dny_neod")};
+        });
+        pricti(u_.hodiny_neodpracovane, "hodiny_neodpracovane", r.hod_neod, [&] {
+            return std::pair{r.sloupec_slovy, zdroj("Hrube", "Hod_neod")};
+        });
     }
 }
 

@@ -96,6 +96,7 @@ class PracovnikMesice {
                         std::string_view nazev);
     void zapis_stale_platy();
     Fondy fondy_pracovni_doby();
+    void stopa_fondu(const Fondy& fondy, int dny_pomeru, Castka rpd_pomeru);
     Castka zkraceny_plat(Castka castka, const Fondy& fondy, const char* nazev, const char* pole,
                          const char* promenna);
     void zapis_staly_plat(const Fondy& fondy);

@@ -47,8 +47,8 @@ void PracovnikMesice::zapis_fixni_srazky() {
 }
 
 void PracovnikMesice::zapis_odbory() {
-    const Castka cisty = u_.hruba_mzda - u_.socialni_kc - u_.zdravotni_kc - u_.dan_castka +
-                         u_.socialni_davky;
+    const Castka cisty =
+        u_.hruba_mzda - u_.socialni_kc - u_.zdravotni_kc - u_.dan_castka + u_.socialni_davky;
     if (stopa_) {
         stopa_->krok("čistý příjem pro odbory")
             .z("hrubá mzda", "hruba_mzda", u_.hruba_mzda)
@@ -61,8 +61,9 @@ void PracovnikMesice::zapis_odbory() {
             .vysledek("cisty_pro_odbory", cisty);
     }
     const Castka prispevek = odborovy_prispevek(karta_->cislo, cisty, parametry_.ridici, stopa_);
-    pricti(u_.srazky_soucet, "srazky_soucet", prispevek,
-           [] { return std::pair{"příspěvek odborovému svazu", "odborovy_prispevek"}; });
+    pricti(u_.srazky_soucet, "srazky_soucet", prispevek, [] {
+        return std::pair{"příspěvek odborovému svazu", "odborovy_prispevek"};
+    });
     zapis({11, parametry_.ridici.modul11, "příspěvek odborový svaz", prispevek, "",
            "odborovy_prispevek"});
 }
@@ -78,8 +79,7 @@ void PracovnikMesice::zapis_k_vyplate() {
         if (stopa_) stopa_->krok("záloha").z("fixní", "fixni", zaloha).vysledek("zaloha", zaloha);
         zapis({13, s.sloupec, "záloha", s.kcs, "", "zaloha"});
     }
-    const Castka k_vyplate =
-        bez_sumu(u_.hruba_mzda + u_.ostatni_davky - u_.srazky_soucet - zaloha);
+    const Castka k_vyplate = bez_sumu(u_.hruba_mzda + u_.ostatni_davky - u_.srazky_soucet - zaloha);
     if (stopa_) {
         stopa_->krok("k výplatě")
             .z("hrubá mzda", "hruba_mzda", u_.hruba_mzda)

@@ -1,6 +1,6 @@
 // Amounts without binary noise. The store keeps 8-byte floats, and 0,1 is none of them; summed or
-// multiplied in binary, amounts in hellers come out a hair beside the decimal number they stand for.
-// Where a rounding or a comparison follows, that hair could cost a crown, so it is taken away.
+// multiplied in binary, amounts in hellers come out a hair beside the decimal number they stand
+// for. Where a rounding or a comparison follows, that hair could cost a crown, so it is taken away.
 #pragma once
 
 #include "base/zaokrouhleni.h"

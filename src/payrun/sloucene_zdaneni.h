@@ -14,9 +14,9 @@ namespace payrun {
 
 /// An entry taken over by the worker who pays the tax.
 struct Pripis {
-    std::size_t poradi = 0;    ///< place in the list, from 0
-    std::string cislo;         ///< six characters: the worker it comes from
-    std::string zaklad_textem; ///< fifteen characters, as the entry holds it
+    std::size_t poradi = 0;     ///< place in the list, from 0
+    std::string cislo;          ///< six characters: the worker it comes from
+    std::string zaklad_textem;  ///< fifteen characters, as the entry holds it
     Castka zaklad = 0;
     Castka prijem = 0;
 };

@@ -132,6 +132,7 @@ void TForm21::vrat_po_chybe() {
     prubeh_pozice = prubeh_max = 0;
     scChyby.clear();
     beh_->stav.seznam_zapornych.clear();
+    beh_->stav.dilci = {};
     prohlizet_zaporne_viditelne = session_.data().table_exists(k_zaporna);
     oznam_zmenu();
 }
@@ -168,16 +169,16 @@ void TForm21::proved_vypocet() {
 }
 
 void TForm21::projdi_pracovniky(Beh& beh) {
-    const ParametryMesice parametry{session_.ridici_zorv, session_.nastaveni, session_.rok,
-                                    beh.mesic,            pracovni_dny_mesice, zapornych_povoleno};
+    const ParametryMesice parametry{session_.ridici_zorv, session_.nastaveni,
+                                    session_.rok,         beh.mesic,
+                                    pracovni_dny_mesice,  zapornych_povoleno};
     VstupyMesice vstupy(session_, beh.mesic, beh.mesic);
     const std::vector<Karta> karty = nacti_karty(session_.data(), beh.mesic);
     TabulkaVet tabulka(session_.data(), beh.mesic);
     Zapisovac zapisovac(scChyby);
-    PracovnikMesice vypocet(parametry, vstupy, zapisovac, beh.stav,
-                            [this](const Karta&, const std::string& text) {
-                                return zeptej_se_na_slevy(text);
-                            });
+    PracovnikMesice vypocet(
+        parametry, vstupy, zapisovac, beh.stav,
+        [this](const Karta&, const std::string& text) { return zeptej_se_na_slevy(text); });
     prubeh_max = static_cast<int>(karty.size());
     for (const Faze faze : {Faze::A, Faze::B}) {
         const char* uvod = faze == Faze::A ? "A: Pracovník " : "B: Pracovník ";
@@ -226,8 +227,8 @@ bool TForm21::mame_zaporne_vyplaty() {
     pocet.close();
     std::size_t vet = 0;
     int predchozi = 0;
-    store::Query vety(data, "SELECT Cislo_pracovnika, Pocitadlo FROM " + beh_->listina +
-                                " ORDER BY Pocitadlo");
+    store::Query vety(
+        data, "SELECT Cislo_pracovnika, Pocitadlo FROM " + beh_->listina + " ORDER BY Pocitadlo");
     for (vety.open(); !vety.eof() && !preruseno; vety.next()) {
         const int cislo = static_cast<int>(vety.integer(0));
         ++vet;

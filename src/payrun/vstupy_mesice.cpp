@@ -68,8 +68,9 @@ void VstupyMesice::nacti_hrube() {
 }
 
 void VstupyMesice::nacti_fixni() {
-    store::Query q(session_.data(),
-                   "SELECT Cislo_pracovnika, Sloupec, Pocitadlo, Kcs FROM Fixni ORDER BY Pocitadlo");
+    store::Query q(
+        session_.data(),
+        "SELECT Cislo_pracovnika, Sloupec, Pocitadlo, Kcs FROM Fixni ORDER BY Pocitadlo");
     for (q.open(); !q.eof(); q.next()) {
         // An item without a column lies in no range of columns.
         if (q.is_empty(1)) continue;
@@ -138,8 +139,8 @@ const std::vector<HrubaSkupina>& VstupyMesice::hrube_podle_sloupcu(int cislo, in
         s.kc_cel += r.kc_cel;
     }
     for (HrubaSkupina& s : hrube_skupiny_) {
-        for (Castka* soucet : {&s.dny_od, &s.dny_neod, &s.hod_od, &s.hod_neod, &s.hod_vedl, &s.kc1,
-                               &s.kc_cel}) {
+        for (Castka* soucet :
+             {&s.dny_od, &s.dny_neod, &s.hod_od, &s.hod_neod, &s.hod_vedl, &s.kc1, &s.kc_cel}) {
             *soucet = bez_sumu(*soucet);
         }
     }
@@ -164,9 +165,8 @@ const BlokovaneHodnoty& VstupyMesice::blokovane(int cislo) const {
 const wages::RokKalendare* VstupyMesice::kalendar(int id_rpd) {
     auto it = kalendare_.find(id_rpd);
     if (it == kalendare_.end()) {
-        it = kalendare_
-                 .emplace(id_rpd, wages::nacti_kalendar(session_, id_rpd, session_.rok))
-                 .first;
+        it =
+            kalendare_.emplace(id_rpd, wages::nacti_kalendar(session_, id_rpd, session_.rok)).first;
     }
     return it->second ? &*it->second : nullptr;
 }

@@ -68,7 +68,8 @@ std::vector<VysvetlenyRadek> porovnej(const std::vector<PametVeta>& vypoctene,
         radky.push_back(std::move(r));
     }
     std::set<std::size_t> zbyle;
-    for (const auto& [klic, poradi] : volne) zbyle.insert(poradi);
+    for (const auto& [klic, poradi] : volne)
+        zbyle.insert(poradi);
     for (const std::size_t poradi : zbyle) {
         VysvetlenyRadek r = radek(ulozene[poradi]);
         r.ulozeno = ulozene[poradi].hodnota;

@@ -86,7 +86,8 @@ struct Polozka {
 
 /// True for a value that makes a row only in the modules that keep empty rows.
 bool je_zanedbatelna(Castka hodnota);
-/// The amount as a row stores it: time rows to hundredths, all others to whole crowns, ties to even.
+/// The amount as a row stores it: time rows to hundredths, all others to whole crowns, ties to
+/// even.
 Castka ulozena_hodnota(int modul, Castka hodnota);
 
 /// The only writer of rows.

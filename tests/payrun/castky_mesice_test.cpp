@@ -37,7 +37,7 @@ TEST(Kraceni, PlatPodleFonduHodin) {
     };
     const Pripad pripady[] = {
         {20000, 168, 84, 10000}, {20000, 168, 168, 20000}, {20000, 168, 0, 0},
-        {20000, 0, 80, 0},       {10001, 168, 84, 5001},  // 5000,5
+        {20000, 0, 80, 0},       {10001, 168, 84, 5001},    // 5000,5
         {10000, 3, 1, 3333},     {10000, 168, -84, -4999},  // přičte se půl a odřízne
     };
     for (const Pripad& p : pripady) {
@@ -51,8 +51,8 @@ TEST(Kraceni, PlatPodleFonduHodin) {
 
 TEST(PenzijniFond, PodilNeboKoruny) {
     const std::pair<Castka, Castka> pripady[] = {
-        {0.03L, 600}, {0.0333L, 666}, {0.9985L, 19970}, {0.9995L, 0.9995L}, {1, 1},
-        {500, 500},   {0, 0},
+        {0.03L, 600}, {0.0333L, 666}, {0.9985L, 19970}, {0.9995L, 0.9995L},
+        {1, 1},       {500, 500},     {0, 0},
     };
     for (const auto& [sazba, castka] : pripady) {
         EXPECT_EQ(prispevek_penzijniho_fondu(sazba, 20000), castka) << static_cast<double>(sazba);
@@ -73,8 +73,7 @@ TEST(SlouceneZdaneni, PolozkaJePevnyTextASpotrebujeSeJednou) {
     sloucene.pridej(12, 7, 5000, 5000.4L);
     sloucene.pridej(13, 8, 100, 100);
     sloucene.pridej(14, 7, -20, -20);
-    EXPECT_EQ(sloucene.polozky()[0],
-              "000012000007        5000,00        5000,40        5000,00");
+    EXPECT_EQ(sloucene.polozky()[0], "000012000007        5000,00        5000,40        5000,00");
     EXPECT_EQ(base::pocet_znaku(sloucene.polozky()[2]), 57U);
 
     const std::vector<Pripis> pripisy = sloucene.odeber_pro(7);

@@ -12,15 +12,15 @@ TEST(SocialniPojisteni, ZakladAPojistneNaHranicichKodu) {
     };
     const Pripad pripady[] = {
         {Socialni::plati, 10000, 10000, 10000, 650},
-        {Socialni::plati, 10001, 10001, 10001, 651},      // 650,065 nahoru
+        {Socialni::plati, 10001, 10001, 10001, 651},  // 650,065 nahoru
         {Socialni::plati, -1000, -1000, -1000, -65},
         {Socialni::maly_rozsah, 3499, 3499, 0, 0},
-        {Socialni::maly_rozsah, 3500, 3500, 3500, 228},   // 227,5 nahoru
+        {Socialni::maly_rozsah, 3500, 3500, 3500, 228},  // 227,5 nahoru
         {Socialni::dohoda, 10000, 10000, 0, 0},
         {Socialni::dohoda, 10001, 10001, 10001, 651},
         {Socialni::neplati, 50000, 50000, 0, 0},
-        {Socialni::druhy_pilir, 100, 100, 100, 7},        // bez hranice
-        {Socialni::plati, 19999, 20000, 19999, 1300},     // koruna vyňatá ze základu
+        {Socialni::druhy_pilir, 100, 100, 100, 7},     // bez hranice
+        {Socialni::plati, 19999, 20000, 19999, 1300},  // koruna vyňatá ze základu
         {Socialni::plati, 19999.002L, 20000, 20000, 1300},
     };
     for (const Pripad& p : pripady) {
@@ -60,9 +60,9 @@ TEST(ZdravotniPojisteni, ZakladAPojistnePodleKodu) {
         {Zdravotni::minimum, false, false, 17000, 17000, 765},
         {Zdravotni::maly_rozsah, false, false, 3499, 0, 0},
         {Zdravotni::maly_rozsah, false, false, 3500, 3500, 158},  // 157,5
-        {Zdravotni::maly_rozsah, true, false, 10000, 2697, 0},    // po snížení znovu pod hranicí
+        {Zdravotni::maly_rozsah, true, false, 10000, 2697, 0},  // po snížení znovu pod hranicí
         {Zdravotni::dohoda, false, true, 10000, 0, 0},
-        {Zdravotni::dohoda, false, true, 10001, 10001, 451},      // bez snížení
+        {Zdravotni::dohoda, false, true, 10001, 10001, 451},  // bez snížení
         {Zdravotni::neplati, false, false, 30000, 0, 0},
         {static_cast<Zdravotni>(0), true, false, 10000, 10000, 450},
     };
@@ -81,10 +81,14 @@ TEST(RocniMaximum, ZakladSeKratiNaZbytek) {
         Castka zaklad, predchozi, vysledek;
     };
     const Pripad pripady[] = {
-        {50000, 0, 50000},       {50000, 1817728, 50000},  // přesně na maximum
-        {50000, 1817729, 49999}, {50000, 1867727, 1},
-        {50000, 1867728, 0},     {50000, 1900000, 0},
-        {0, 0, 0},               {-500, 1000000, -500},
+        {50000, 0, 50000},
+        {50000, 1817728, 50000},  // přesně na maximum
+        {50000, 1817729, 49999},
+        {50000, 1867727, 1},
+        {50000, 1867728, 0},
+        {50000, 1900000, 0},
+        {0, 0, 0},
+        {-500, 1000000, -500},
     };
     for (const Pripad& p : pripady) {
         EXPECT_EQ(strop(p.zaklad, p.predchozi, 1867728), p.vysledek)

@@ -49,10 +49,10 @@ TEST(PracovniPomer, NesmyslneDatumNicNezastavi) {
         int dni;
     };
     const Pripad pripady[] = {
-        {"nevím", "až do konce", 22},       // nečitelné: bez omezení
-        {"..", "1.2", 22},                  // neúplné: bez omezení
-        {"20.5.2022", "10.5.2022", 0},      // konec před začátkem
-        {"31.4.2022", "", 22},              // den, který není: leží před květnem
+        {"nevím", "až do konce", 22},   // nečitelné: bez omezení
+        {"..", "1.2", 22},              // neúplné: bez omezení
+        {"20.5.2022", "10.5.2022", 0},  // konec před začátkem
+        {"31.4.2022", "", 22},          // den, který není: leží před květnem
         {"", "31.4.2022", 0},
         {"", "99.99.9999", 22},
         {"1.1.9999", "", 0},

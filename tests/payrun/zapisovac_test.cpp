@@ -41,7 +41,9 @@ TEST_F(Zapis, PrazdneVetyZustavajiJenVNekterychModulech) {
         const bool zustava = modul == 4 || modul == 9 || modul == 14 || modul >= 87;
         for (const Castka hodnota : {Castka{0}, Castka{0.005L}, Castka{0.01L}, Castka{-0.01L}}) {
             EXPECT_EQ(zapis(modul, hodnota), zustava) << modul;
-            if (zustava) EXPECT_FALSE(cil.hodnota) << modul;
+            if (zustava) {
+                EXPECT_FALSE(cil.hodnota) << modul;
+            }
         }
         EXPECT_TRUE(zapis(modul, 0.011L)) << modul;
     }
@@ -55,9 +57,17 @@ TEST_F(Zapis, CastkaSeUkladaNaKorunyACasNaSetiny) {
         double ulozeno;
     };
     const Pripad pripady[] = {
-        {3, 100.5L, 100}, {3, 101.5L, 102},   {3, 100.51L, 101},   {14, -100.5L, -100},
-        {14, 0.3L, 0},    {51, 12.345L, 12.34}, {55, 12.355L, 12.36}, {71, 0.5L, 0.5},
-        {73, 0.126L, 0.13}, {61, 99.5L, 100},  {3, Castka{1001.3} + 0.2, 1002},
+        {3, 100.5L, 100},
+        {3, 101.5L, 102},
+        {3, 100.51L, 101},
+        {14, -100.5L, -100},
+        {14, 0.3L, 0},
+        {51, 12.345L, 12.34},
+        {55, 12.355L, 12.36},
+        {71, 0.5L, 0.5},
+        {73, 0.126L, 0.13},
+        {61, 99.5L, 100},
+        {3, Castka{1001.3} + 0.2, 1002},
     };
     for (const Pripad& p : pripady) {
         ASSERT_TRUE(zapis(p.modul, p.hodnota));
@@ -87,7 +97,8 @@ TEST_F(Zapis, NecoZapsanoASouctyJenZeZapsanych) {
     zapisovac.zacni_pracovnika(karta, cil, nullptr);
     EXPECT_FALSE(zapisovac.neco_zapsano());
     for (int i = 0; i < 2; ++i) {
-        for (const int modul : {2, 3, 4, 61, 62, 5}) zapis(modul, modul + 0.4L);
+        for (const int modul : {2, 3, 4, 61, 62, 5})
+            zapis(modul, modul + 0.4L);
     }
     const SoucetMesice& s = zapisovac.soucet_mesice();
     EXPECT_EQ(s.hrube_mzdy, 4);
@@ -99,7 +110,8 @@ TEST_F(Zapis, NecoZapsanoASouctyJenZeZapsanych) {
 
 TEST_F(Zapis, DlouheTextySeUseknouNaZnaky) {
     std::string dlouhy;
-    for (int i = 0; i < 120; ++i) dlouhy += "ž";
+    for (int i = 0; i < 120; ++i)
+        dlouhy += "ž";
     zapisovac.zapis_vetu_do_vyplatni_listiny({61, 0, dlouhy, 100, dlouhy});
     EXPECT_EQ(base::pocet_znaku(cil.co_je_to), 30U);
     EXPECT_EQ(base::pocet_znaku(cil.poznamka), 100U);

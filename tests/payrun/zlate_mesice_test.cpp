@@ -75,7 +75,8 @@ class ZlateMesice : public testing::TestWithParam<std::string> {
                                          radek[0].substr(lomitko + 1), radek.at(1)),
                       "");
         }
-        for (const auto& polozka : fs::directory_iterator(slozka)) vloz_tabulku(polozka.path());
+        for (const auto& polozka : fs::directory_iterator(slozka))
+            vloz_tabulku(polozka.path());
         paysheet::Nacti_sloupce_slovy(firma.session);
     }
 
