@@ -4,7 +4,7 @@ namespace payrun {
 namespace {
 
 constexpr int k_dni_v_tydnu = 5;
-constexpr Castka k_jedna_koruna = 0.001L;
+constexpr Castka k_rozdil_od_jedne = 0.001L;
 
 }  // namespace
 
@@ -23,7 +23,7 @@ Castka dny_za_hodiny(Castka hodiny, Castka tpd) {
 
 Castka prispevek_penzijniho_fondu(Castka sazba, Castka hruba_mzda) {
     const Castka od_jedne = sazba - 1;
-    const bool je_podil = sazba <= 1 && (od_jedne >= k_jedna_koruna || od_jedne <= -k_jedna_koruna);
+    const bool je_podil = sazba <= 1 && (od_jedne >= k_rozdil_od_jedne || od_jedne <= -k_rozdil_od_jedne);
     if (!je_podil) return sazba;
     return base::na_halere_k_sude(bez_sumu(sazba * hruba_mzda));
 }

@@ -8,18 +8,12 @@
 
 #include "store/connection.h"
 #include "store/engine_sql.h"
+#include "store/overloaded.h"
 #include "store/sql_lexer.h"
 
 namespace store::sql {
 
 namespace {
-
-template <class... F>
-struct Overloaded : F... {
-    using F::operator()...;
-};
-template <class... F>
-Overloaded(F...) -> Overloaded<F...>;
 
 std::string column_sql(const FoundField& found) {
     return in_quotes(found.source->name) + "." + in_quotes(found.field->name);

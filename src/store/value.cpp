@@ -7,17 +7,11 @@
 
 #include "base/text.h"
 #include "store/definition.h"
+#include "store/overloaded.h"
 
 namespace store {
 
 namespace {
-
-template <class... F>
-struct Overloaded : F... {
-    using F::operator()...;
-};
-template <class... F>
-Overloaded(F...) -> Overloaded<F...>;
 
 std::string plain_notation(double number) {
     if (number == 0) return "0";

@@ -10,6 +10,7 @@
 #include "paysheet/unit2_struktura.h"
 #include "shell/nova_firma.h"
 #include "store/catalogue.h"
+#include "support/prazdna_relace.h"
 #include "support/zkusebni_firma.h"
 
 namespace {
@@ -17,18 +18,12 @@ namespace {
 namespace fs = std::filesystem;
 
 /// A company as the accounting module leaves it: nothing of the payroll is there yet.
-struct NovaFirma {
-    zkouska::DocasnaSlozka koren;
-    zkouska::SkriptovanaObsluha obsluha;
-    base::PevneHodiny hodiny{{{2022, 1, 15}, 8, 0, 0}};
-    base::SystemovaNahoda nahoda;
-    shell::Session session{{obsluha, hodiny, nahoda}, koren / "program"};
+struct NovaFirma : zkouska::PrazdnaRelace {
     menu::TForm1 form{session};
     int ukazana_struktura = 0;
 
     explicit NovaFirma(bool uloz_strukturu = true) {
         EXPECT_EQ(shell::zaloz_slozku_firmy(koren.cesta(), "FIRMA22", {"Zkušební", "1"}), "");
-        session.koren_dat = koren.cesta();
         session.firma = "FIRMA22";
         obsluha.pri_obrazovce = [this, uloz_strukturu](base::Obrazovka& obrazovka) {
             auto& struktura = dynamic_cast<paysheet::TForm2&>(obrazovka);

@@ -5,23 +5,16 @@
 
 #include "shell/nova_firma.h"
 #include "store/query.h"
-#include "support/docasna_slozka.h"
-#include "support/skriptovana_obsluha.h"
+#include "support/prazdna_relace.h"
 
 namespace {
 
 /// A company without a structure yet.
-struct NovaFirma {
-    zkouska::DocasnaSlozka koren;
-    zkouska::SkriptovanaObsluha obsluha;
-    base::PevneHodiny hodiny{{{2022, 1, 15}, 8, 0, 0}};
-    base::SystemovaNahoda nahoda;
-    shell::Session session{{obsluha, hodiny, nahoda}, koren / "program"};
+struct NovaFirma : zkouska::PrazdnaRelace {
     paysheet::TForm2 form{session};
 
     NovaFirma() {
         EXPECT_EQ(shell::zaloz_slozku_firmy(koren.cesta(), "FIRMA22", {"Zkušební", "1"}), "");
-        session.koren_dat = koren.cesta();
         session.firma = "FIRMA22";
         shell::cti_konfiguracni_soubor(session);
         session.ridici_zorv = shell::vychozi_ridici_zorv(session.slozka_programu);

@@ -10,22 +10,14 @@
 #include "store/catalogue.h"
 #include "store/query.h"
 #include "store/table.h"
-#include "support/docasna_slozka.h"
-#include "support/skriptovana_obsluha.h"
+#include "support/prazdna_relace.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 
 /// A session over an empty data root.
-struct Relace {
-    zkouska::DocasnaSlozka koren;
-    zkouska::SkriptovanaObsluha obsluha;
-    base::PevneHodiny hodiny{{{2022, 1, 15}, 8, 0, 0}};
-    base::SystemovaNahoda nahoda;
-    shell::Session session{{obsluha, hodiny, nahoda}, koren / "program"};
-
-    Relace() { session.koren_dat = koren.cesta(); }
+struct Relace : zkouska::PrazdnaRelace {
     void zaloz(const std::string& nazev) {
         ASSERT_EQ(shell::zaloz_slozku_firmy(koren.cesta(), nazev, {"Zkušební s.r.o.", "12345678"}),
                   "");
