@@ -23,7 +23,8 @@ Castka dny_za_hodiny(Castka hodiny, Castka tpd) {
 
 Castka prispevek_penzijniho_fondu(Castka sazba, Castka hruba_mzda) {
     const Castka od_jedne = sazba - 1;
-    const bool je_podil = sazba <= 1 && (od_jedne >= k_rozdil_od_jedne || od_jedne <= -k_rozdil_od_jedne);
+    const bool je_podil =
+        sazba <= 1 && (od_jedne >= k_rozdil_od_jedne || od_jedne <= -k_rozdil_od_jedne);
     if (!je_podil) return sazba;
     return base::na_halere_k_sude(bez_sumu(sazba * hruba_mzda));
 }
