@@ -9,6 +9,7 @@
 #include "cli/tabulky_firmy.h"
 #include "cli/texty.h"
 
+#include "menu/prehled_roku.h"
 #include "paysheet/listina.h"
 #include "store/catalogue.h"
 
@@ -38,27 +39,28 @@ class FirmaStav final : public Sloveso {
                          {"pojištění", Strana::vpravo},
                          {"daň", Strana::vpravo},
                          {"k výplatě", Strana::vpravo}});
-        for (int mesic = 1; mesic <= 12; ++mesic)
+        const auto rok = menu::prehled_roku(session);
+        for (const auto& mesic : rok)
             tabulka.radek(radek_mesice(session, mesic));
         tabulka.vypis(kontext.out);
+        kontext.out << '\n' << menu::dalsi_krok(rok, session.aktivni_mesic) << ".\n";
         return hotovo;
     }
 
   private:
-    static std::vector<std::string> radek_mesice(shell::Session& session, int mesic) {
-        auto& data = session.data();
-        const auto hrube = store::month_table("Hrube", mesic);
-        const auto listin = store::month_table("Listin", mesic);
+    static std::vector<std::string> radek_mesice(shell::Session& session,
+                                                 const menu::PrehledMesice& mesic) {
         std::vector<std::string> radek{
-            base::mesic_slovy(mesic, 0),
-            data.table_exists(hrube) ? std::to_string(pocet_radku(data, hrube)) : "",
-            spocteno(session, mesic),
-            session.ridici_zorv.uzaverka[static_cast<std::size_t>(mesic - 1)]};
-        if (!data.table_exists(listin)) return radek;
-        radek.push_back(std::to_string(pocet_radku(data, listin, "Modul = 14")));
-        for (const auto& [od, do_] : {std::pair{2, 2}, {7, 8}, {9, 9}, {14, 14}}) {
-            radek.push_back(citelna_castka(paysheet::zjisti_listin(
-                session, 1, k_nejvyssi_cislo_pracovnika, false, mesic, mesic, do_, od)));
+            base::mesic_slovy(mesic.mesic, 0), mesic.radku > 0 ? std::to_string(mesic.radku) : "",
+            spocteno(session, mesic.mesic),
+            session.ridici_zorv.uzaverka[static_cast<std::size_t>(mesic.mesic - 1)]};
+        if (!session.data().table_exists(store::month_table("Listin", mesic.mesic))) return radek;
+        radek.push_back(std::to_string(mesic.pracovniku));
+        radek.push_back(citelna_castka(mesic.hruba));
+        for (const auto& [od, do_] : {std::pair{7, 8}, {9, 9}, {14, 14}}) {
+            radek.push_back(
+                citelna_castka(paysheet::zjisti_listin(session, 1, k_nejvyssi_cislo_pracovnika,
+                                                       false, mesic.mesic, mesic.mesic, do_, od)));
         }
         return radek;
     }

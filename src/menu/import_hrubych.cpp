@@ -1,6 +1,7 @@
 #include "menu/import_hrubych.h"
 
 #include "base/text.h"
+#include "menu/vstup_do_mesice.h"
 #include "store/catalogue.h"
 
 namespace menu {
@@ -16,8 +17,9 @@ std::optional<int> mesic_hrubych(std::string_view tabulka) {
 std::optional<store::ImportResult> import_hrubych(shell::Session& session, int mesic,
                                                   std::string_view csv, std::string_view soubor,
                                                   bool nahradit) {
-    session.zpracovavany_mesic = mesic;
+    VstupDoMesice vstup(session, mesic);
     if (!shell::test_aktivniho_mesice_hrube(session)) return {};
+    vstup.vpust();
 
     const auto listina = store::month_table("Listin", mesic);
     auto& data = session.data();

@@ -1,15 +1,12 @@
+// TForm1: opening a company, its control records.
 #include "menu/unit1_hlavni.h"
 
 #include <fmt/format.h>
 
 #include "base/ini.h"
-#include "base/text.h"
-#include "payrun/unit21_vypocet_vyplat.h"
-#include "paysheet/listina.h"
 #include "paysheet/sloupce.h"
 #include "paysheet/unit2_struktura.h"
 #include "shell/nova_firma.h"
-#include "store/catalogue.h"
 
 namespace menu {
 
@@ -18,16 +15,6 @@ namespace {
 constexpr const char* k_soubor_uctu = "rid_ucet.idx";
 constexpr const char* k_bez_firmy = "Vyber firmu --->";
 
-/// Makes the table of the processed month when it is missing.
-void zaloz_mesicni_tabulku(shell::Session& session, const char* nazev) {
-    const std::string tabulka = store::month_table(nazev, session.zpracovavany_mesic);
-    store::Transaction transakce(session.data());
-    if (!session.data().table_exists(tabulka)) {
-        session.data().create_table(store::definition_of(tabulka));
-    }
-    transakce.commit();
-}
-
 }  // namespace
 
 TForm1::TForm1(shell::Session& session)
@@ -35,15 +22,13 @@ TForm1::TForm1(shell::Session& session)
       mesic(session.mesic_v_poli),
       session_(session) {}
 
-void TForm1::FormShow() {
-    shell::Session& s = session_;
-    if (!std::filesystem::is_directory(shell::slozka_firmy(s.koren_dat, s.firma))) s.firma.clear();
-    if (s.firma.empty()) {
-        lbFirma = k_bez_firmy;
-        oznam_zmenu();
-    } else {
-        zaloz_soubory();
-    }
+void TForm1::ukaz_bez_firmy() {
+    lbFirma = k_bez_firmy;
+    oznam_zmenu();
+}
+
+std::filesystem::path TForm1::sablona(const char* soubor) const {
+    return session_.slozka_programu / "Sablony" / soubor;
 }
 
 bool TForm1::zaloz_soubory() {
@@ -61,8 +46,7 @@ bool TForm1::zaloz_soubory() {
     s.sazby_dph = {shell::hodnota_firmy(s, "dphs1", "21"), shell::hodnota_firmy(s, "dphs2", "15"),
                    shell::hodnota_firmy(s, "dphs3", "10")};
     prenes_jmeno_ucetni();
-    pozadi =
-        shell::hodnota_firmy(s, "pozadi", (s.slozka_programu / "Sablony" / "pozadi9.jpg").string());
+    pozadi = shell::hodnota_firmy(s, "pozadi", sablona("pozadi9.jpg").string());
     oznam_zmenu();
     return true;
 }
@@ -166,47 +150,6 @@ void TForm1::prenes_jmeno_ucetni() {
         ini.smaz_klic(k_sekce, udaj.klic);
         ini.uloz();
     }
-}
-
-/// The re-run question and the empty sheet; false when the operator keeps the old one.
-bool TForm1::zaloz_listinu_pro_vypocet() {
-    const int m = session_.zpracovavany_mesic;
-    if (!session_.data().table_exists(store::month_table("Listin", m))) {
-        paysheet::zaloz_vyplatni_listinu(session_, 1);
-        return true;
-    }
-    const std::string otazka = fmt::format(
-        "V měsíci {} byly výplaty již zpracovány.\r\n"
-        "Zrušit původní výplaty a provést nový výpočet?",
-        m);
-    if (!session_.obsluha().otazka_ano_ne(otazka, "Opakovaný výpočet výplat")) return false;
-    paysheet::zaloz_vyplatni_listinu(session_, 2);
-    return true;
-}
-
-bool TForm1::acVypocetVyplatExecute() {
-    session_.mesic_v_poli = mesic;
-    session_.zpracovavany_mesic = mesic;
-    if (!shell::test_aktivniho_mesice_predani(session_)) return false;
-    if (!session_.data().table_exists(store::month_table("Hrube", mesic))) {
-        session_.obsluha().hlaska("Soubor \"HRUBE" + base::cislo_s_nulami(mesic, 2) +
-                                  ".DB\" v adresáři \"" +
-                                  base::velkymi(session_.cesta_dat.string()) +
-                                  "nebyl nalezen.\r\n\r\nNelze zpracovat výplaty.");
-        return false;
-    }
-    if (!zaloz_listinu_pro_vypocet()) return false;
-    payrun::TForm21 vypocet(session_);
-    vypocet.FormShow();
-    session_.obsluha().ukaz_modalne(vypocet);
-    return true;
-}
-
-void zaloz_hrube_zorv(shell::Session& session) {
-    zaloz_mesicni_tabulku(session, "Hrube");
-}
-void zaloz_soubor_pro_blokovani(shell::Session& session) {
-    zaloz_mesicni_tabulku(session, "Blok");
 }
 
 }  // namespace menu

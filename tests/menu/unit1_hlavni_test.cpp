@@ -25,6 +25,7 @@ struct NovaFirma : zkouska::PrazdnaRelace {
     explicit NovaFirma(bool uloz_strukturu = true) {
         EXPECT_EQ(shell::zaloz_slozku_firmy(koren.cesta(), "FIRMA22", {"Zkušební", "1"}), "");
         session.firma = "FIRMA22";
+        session.velmar.logovat = false;
         obsluha.pri_obrazovce = [this, uloz_strukturu](base::Obrazovka& obrazovka) {
             auto& struktura = dynamic_cast<paysheet::TForm2&>(obrazovka);
             EXPECT_EQ(struktura.pole[17], "18");
