@@ -5,12 +5,6 @@
 
 namespace annual {
 
-namespace {
-
-constexpr std::size_t k_sirka_obdobi = 17;
-
-}  // namespace
-
 TFStavProjektu::TFStavProjektu(shell::Session& session) : session_(session) {}
 
 void TFStavProjektu::FormShow() {

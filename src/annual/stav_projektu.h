@@ -16,6 +16,7 @@ class TFStavProjektu final : public base::Obrazovka {
 
     static constexpr const char* k_sloupec_obdobi = "Období";
     static constexpr const char* k_sloupec_datum = "Datum uzavření";
+    static constexpr int k_sirka_obdobi = 17;  ///< characters of the first column
 
     std::string nadpis;
     /// A line a month: its name and year in 17 characters, a blank, the date of closing or nothing.
