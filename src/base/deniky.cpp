@@ -1,6 +1,6 @@
 #include "base/deniky.h"
 
-#include <cstdlib>
+#include <algorithm>
 #include <fmt/format.h>
 #include <fstream>
 #include <system_error>
@@ -16,12 +16,27 @@ fs::path soubor_oken(const fs::path& slozka, std::string_view program) {
     return slozka / "Velmar" / "Okna" / fmt::format("{}_okna.ini", program);
 }
 
+/// One error is one line, also with a text of several.
+std::string na_radek(std::string text) {
+    std::erase(text, '\r');
+    std::replace(text.begin(), text.end(), '\n', ' ');
+    return text;
+}
+
 }  // namespace
 
-fs::path slozka_uzivatele() {
-    if (const char* data = std::getenv("XDG_DATA_HOME"); data && *data) return data;
-    const char* domov = std::getenv("HOME");
-    return fs::path(domov && *domov ? domov : ".") / ".local" / "share";
+void zapis_chybu(const fs::path& soubor, const Hodiny& hodiny, const ZaznamChyby& chyba) {
+    const DatumCas ted = hodiny.nyni();
+    const std::string kdy = fmt::format("{}.{}.{} {}:{:02}:{:02}", ted.datum.den, ted.datum.mesic,
+                                        ted.datum.rok, ted.hodina, ted.minuta, ted.sekunda);
+    std::error_code bez_souboru;
+    const bool novy = !fs::exists(soubor, bez_souboru);
+    std::ofstream vystup(soubor, std::ios::app | std::ios::binary);
+    if (novy) {
+        fs::permissions(soubor, fs::perms::owner_read | fs::perms::owner_write, bez_souboru);
+    }
+    vystup << fmt::format("{} : {} - {} {}\r\n", kdy, chyba.trida, na_radek(chyba.text),
+                          chyba.vlastnici);
 }
 
 void log_akce(bool logovat, const fs::path& slozka, const Hodiny& hodiny, std::string_view program,

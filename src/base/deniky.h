@@ -1,22 +1,39 @@
-// What the program keeps about its windows and its use in the user's own folder.
+// What the program keeps about its use and its windows in the user's own folder, and about its
+// errors.
 #pragma once
 
 #include <filesystem>
 #include <optional>
+#include <string>
 #include <string_view>
 
 #include "base/hodiny.h"
+#include "base/slozky.h"
 
 namespace base {
 
-/// The folder for the user's local application data; `$XDG_DATA_HOME`, else `~/.local/share`.
-std::filesystem::path slozka_uzivatele();
+/// The name of this program in its logs and in the file of its windows.
+inline constexpr std::string_view k_program = "Zorv";
+/// What the log says of a screen that was opened.
+inline constexpr std::string_view k_log_otevreni = " FormShow";
 
 /// Appends "MMDDhhmmss" + text to `<slozka>/Velmar/Logy/<year>/<program>_<form>_<year>.log`;
 /// folders are made as needed. Does nothing when `logovat` is off; a log that cannot be written
 /// never stops the work.
 void log_akce(bool logovat, const std::filesystem::path& slozka, const Hodiny& hodiny,
               std::string_view program, std::string_view form, std::string_view text);
+
+/// An error that nobody handled.
+struct ZaznamChyby {
+    std::string trida;      ///< its class
+    std::string text;       ///< what the operator is told
+    std::string vlastnici;  ///< the control where it came out and its owners, joined by "->"
+};
+/// The error reporter's file: appends "date and time : class - text owners" and a line end (CR LF)
+/// to `soubor`, which is made when missing, readable by its owner alone. A file that cannot be
+/// written never hides the error itself.
+void zapis_chybu(const std::filesystem::path& soubor, const Hodiny& hodiny,
+                 const ZaznamChyby& chyba);
 
 /// Place of a window on the screen, in pixels.
 struct PolohaOkna {

@@ -72,6 +72,11 @@ Stopa::Zapis Stopa::krok(std::string_view pravidlo) {
     return {*this, static_cast<int>(kroky_.size()) - 1};
 }
 
+void Stopa::dosad(std::string_view promenna, Castka hodnota, std::string_view odkud) {
+    const int index = krok(odkud).vysledek(promenna, hodnota);
+    kroky_[static_cast<std::size_t>(index)].dosazeno = true;
+}
+
 void Stopa::zacni_soucet(std::string_view promenna, std::string_view pravidlo) {
     promenne_.erase(std::string(promenna));
     soucty_.insert_or_assign(std::string(promenna), Soucet{std::string(pravidlo), {}, -1});

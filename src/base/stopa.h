@@ -38,6 +38,7 @@ struct StopaKrok {
     std::string zaokrouhleni;
     std::string predpis;
     std::string vysledek;
+    bool dosazeno = false;  ///< the value was given; `pravidlo` says by whom
 };
 
 class Stopa {
@@ -72,6 +73,10 @@ class Stopa {
     };
 
     Zapis krok(std::string_view pravidlo);
+
+    /// From now on the variable `promenna` is a value given instead of being computed, as `odkud`
+    /// says ("zadáno ručně").
+    void dosad(std::string_view promenna, Castka hodnota, std::string_view odkud);
 
     /// Starts the running total `promenna` anew at zero.
     void zacni_soucet(std::string_view promenna, std::string_view pravidlo);

@@ -238,4 +238,14 @@ int porovnej_cesky_bez_velikosti(std::string_view a, std::string_view b) {
     return porovnej(*razeni, a, b);
 }
 
+std::int32_t verze_ceskeho_trideni() {
+    static const auto razeni = vytvor_razeni(true);
+    UVersionInfo verze;
+    razeni->getVersion(verze);
+    std::uint32_t cislo = 0;
+    for (const std::uint8_t cast : verze)
+        cislo = cislo << 8U | cast;
+    return static_cast<std::int32_t>(cislo);
+}
+
 }  // namespace base

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -60,5 +61,7 @@ bool je_utf8(std::string_view text);
 int porovnej_cesky(std::string_view a, std::string_view b);
 /// The same without regard to case (accents count).
 int porovnej_cesky_bez_velikosti(std::string_view a, std::string_view b);
+/// Version of the Czech order; texts sorted under another version may stand in another order.
+std::int32_t verze_ceskeho_trideni();
 
 }  // namespace base

@@ -6,6 +6,7 @@
 #include "base/datum.h"
 #include "base/ini.h"
 #include "base/text.h"
+#include "shell/disk.h"
 #include "shell/stara_slozka.h"
 #include "store/catalogue.h"
 #include "store/query.h"
@@ -16,15 +17,6 @@ namespace shell {
 namespace {
 
 constexpr int k_nejstarsi_rok = 2009;
-
-/// The upper-cased letter of a path "X:..."; nothing on a path without a drive.
-std::optional<char> pismeno_disku(const std::filesystem::path& cesta) {
-    const std::string text = cesta.string();
-    if (text.size() < 2 || text[1] != ':') return std::nullopt;
-    const char velke = base::velkymi(text.substr(0, 1))[0];
-    if (velke < 'A' || velke > 'Z') return std::nullopt;
-    return velke;
-}
 
 store::Connection& spojeni(std::unique_ptr<store::Connection>& drzak, const Session& session,
                            const std::filesystem::path& slozka) {
@@ -108,21 +100,6 @@ store::Connection& Session::ucet() {
 void Session::zavri_spojeni() {
     data_.reset();
     ucet_.reset();
-}
-
-VelmarIni cti_velmar_ini(const std::filesystem::path& soubor,
-                         const std::filesystem::path& slozka_programu) {
-    const auto disk = pismeno_disku(slozka_programu);
-    const std::string koren = disk ? std::string{*disk, ':'} : slozka_programu.root_path().string();
-    VelmarIni velmar;
-    velmar.root = base::cti_ini_text(soubor, "Data", "root", koren);
-    velmar.font_size = base::cti_ini_cislo(soubor, "Vzhled", "font_size", velmar.font_size);
-    velmar.vzhled_id = base::cti_ini_cislo(soubor, "Vzhled", "vzhled_id", velmar.vzhled_id);
-    velmar.pamatovat_okna =
-        base::cti_ini_logicke(soubor, "Vzhled", "pamatovat_okna", velmar.pamatovat_okna);
-    velmar.firma_mz = base::cti_ini_text(soubor, "Firma", "mz", "");
-    velmar.logovat = base::cti_ini_logicke(soubor, "System", "logovat", velmar.logovat);
-    return velmar;
 }
 
 void cti_konfiguracni_soubor(Session& session) {

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -14,19 +15,10 @@
 #include "base/obsluha.h"
 #include "shell/control_files.h"
 #include "shell/nastaveni.h"
+#include "shell/velmar_ini.h"
 #include "store/connection.h"
 
 namespace shell {
-
-/// What the program knows from `Velmar.ini` beside the program file.
-struct VelmarIni {
-    std::string root;  ///< "Data"/"root"
-    int font_size = 9;
-    int vzhled_id = 0;
-    bool pamatovat_okna = true;
-    std::string firma_mz;  ///< "Firma"/"mz", the last company
-    bool logovat = true;
-};
 
 /// The services of the face in use; they outlive the session.
 struct Prostredi {
@@ -79,11 +71,6 @@ class Session {
     std::unique_ptr<store::Connection> data_, ucet_;
 };
 
-/// Reads `Velmar.ini` with its defaults; the default root is the root of the program folder's
-/// drive.
-VelmarIni cti_velmar_ini(const std::filesystem::path& soubor,
-                         const std::filesystem::path& slozka_programu);
-
 /// Derives year and paths from root and company, carries the old `Firma` folder over, opens
 /// `Setup`. A year below 2009 shows its message and throws base::UkonceniProgramu.
 void cti_konfiguracni_soubor(Session& session);
@@ -102,8 +89,10 @@ std::filesystem::path slozka_firmy(const std::filesystem::path& koren_dat, std::
 bool tabulka_existuje(const std::filesystem::path& slozka, std::string_view tabulka);
 
 /// Company folders under the root, upper-cased and sorted: named by more than two characters, two
-/// digits last, with a `Setup` table in `Ucet` (or `Firma`).
-std::vector<std::string> seznam_firem(const std::filesystem::path& koren_dat);
+/// digits last, with a `Setup` table in `Ucet` (or `Firma`). `po_slozce` is called after every
+/// folder looked at: a network root may be slow.
+std::vector<std::string> seznam_firem(const std::filesystem::path& koren_dat,
+                                      const std::function<void()>& po_slozce = {});
 
 /// The name with the year's two digits one less or one more.
 std::string firma_minuly_rok(std::string_view nazev);

@@ -64,13 +64,15 @@ bool tabulka_existuje(const std::filesystem::path& slozka, std::string_view tabu
     return store::Connection(slozka, store::Access::read_only).table_exists(tabulka);
 }
 
-std::vector<std::string> seznam_firem(const std::filesystem::path& koren_dat) {
+std::vector<std::string> seznam_firem(const std::filesystem::path& koren_dat,
+                                      const std::function<void()>& po_slozce) {
     std::vector<std::string> firmy;
     for (const auto& slozka : podslozky(koren_dat)) {
         const std::string nazev = slozka.filename().string();
         if (base::je_utf8(nazev) && je_jmeno_firmy(nazev) && ma_setup(slozka)) {
             firmy.push_back(base::velkymi(nazev));
         }
+        if (po_slozce) po_slozce();
     }
     std::sort(firmy.begin(), firmy.end(), [](const std::string& a, const std::string& b) {
         return base::porovnej_cesky(a, b) < 0;

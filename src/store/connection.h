@@ -23,6 +23,13 @@ class StoreError : public base::ChybaDat {
     using base::ChybaDat::ChybaDat;
 };
 
+/// Another program holds the data for longer than the store waits; nothing was changed and the same
+/// step may be tried again.
+class StoreBusy final : public StoreError {
+  public:
+    using StoreError::StoreError;
+};
+
 enum class Access { read_write, read_only };
 
 class Connection {

@@ -1,12 +1,15 @@
 #include "store/sqlite_database.h"
 
 #include <cerrno>
+#include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
 #include <fmt/format.h>
 #include <sqlite3.h>
 #include <unistd.h>
 
+#include "base/text.h"
+#include "store/engine_sql.h"
 #include "store/sqlite_functions.h"
 
 namespace store {
@@ -27,8 +30,6 @@ constexpr const char* settings =
 
 std::string_view error_in_words(int code) {
     switch (code & 0xff) {
-        case SQLITE_BUSY:
-            return "databázi právě používá jiný program";
         case SQLITE_LOCKED:
             return "tabulka se právě čte";
         case SQLITE_FULL:
@@ -110,6 +111,38 @@ void Database::set_up() {
     run("SELECT count(*) FROM sqlite_master");
     run(settings);
     if (access_ == Access::read_write) run("PRAGMA journal_mode=DELETE");
+    if (sorted_by() != base::verze_ceskeho_trideni()) sort_anew();
+}
+
+std::int32_t Database::sorted_by() {
+    std::int32_t version = 0;
+    const auto take = [](void* where, int, char** values, char**) {
+        *static_cast<std::int32_t*>(where) =
+            static_cast<std::int32_t>(std::strtol(values[0], nullptr, 10));
+        return 0;
+    };
+    if (sqlite3_exec(handle_, "PRAGMA user_version", take, &version, nullptr) != SQLITE_OK) {
+        fail("české třídění");
+    }
+    return version;
+}
+
+// Indexes made under another version of the Czech order would miss rows.
+void Database::sort_anew() {
+    if (access_ == Access::read_only) {
+        Database(file_, Access::read_write);
+        return;
+    }
+    run("BEGIN IMMEDIATE");
+    try {
+        run(fmt::format("REINDEX {}; REINDEX {}; PRAGMA user_version={}; COMMIT", collation_exact,
+                        collation_no_case, base::verze_ceskeho_trideni())
+                .c_str(),
+            "české třídění");
+    } catch (...) {
+        sqlite3_exec(handle_, "ROLLBACK", nullptr, nullptr, nullptr);
+        throw;
+    }
 }
 
 // A reader cannot take back what a killed writer left half done, so a writer does it for once.
@@ -129,8 +162,14 @@ bool Database::in_transaction() const {
 
 void Database::fail(std::string_view subject) const {
     const int code = handle_ ? sqlite3_extended_errcode(handle_) : SQLITE_NOMEM;
-    throw StoreError(fmt::format("{}: {}{}{} ({}).", file_.string(), subject,
-                                 subject.empty() ? "" : ": ", error_in_words(code),
+    const std::string where =
+        fmt::format("{}: {}{}", file_.string(), subject, subject.empty() ? "" : ": ");
+    if ((code & 0xff) == SQLITE_BUSY) {
+        throw StoreBusy(where +
+                        "databázi právě používá jiný program. Nic se nezměnilo; počkejte, až "
+                        "skončí, a krok zopakujte.");
+    }
+    throw StoreError(fmt::format("{}{} ({}).", where, error_in_words(code),
                                  handle_ ? sqlite3_errmsg(handle_) : ""));
 }
 

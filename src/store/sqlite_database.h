@@ -1,6 +1,7 @@
 // One open database file of the engine: opening, settings, errors in words.
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -14,7 +15,8 @@ namespace store {
 class Database {
   public:
     /// Opens the file, with read_write makes it when missing, readable by its owner alone; a
-    /// transaction that a kill left half done is taken back first. Throws StoreError naming the
+    /// transaction that a kill left half done is taken back first, and indexes sorted under another
+    /// version of the Czech order are made anew. Throws StoreError naming the
     /// file when it cannot be opened or is no database.
     Database(std::filesystem::path file, Access access);
     ~Database();
@@ -43,6 +45,9 @@ class Database {
     void close() noexcept;
     void set_up();
     void recover_for_reading();
+    /// The version of the Czech order that the indexes stand in, kept in the file; 0 in a new one.
+    std::int32_t sorted_by();
+    void sort_anew();
 
     std::filesystem::path file_;
     Access access_;

@@ -31,4 +31,42 @@ TEST(RodneCislo, DatumPrehodiCisliceJakStoji) {
         EXPECT_EQ(base::datum_z_rc(text), datum) << text;
 }
 
+TEST(RodneCislo, StrukturaJakSePise) {
+    const std::vector<std::pair<const char*, bool>> pripady{{"85-01-01/123", true},
+                                                            {"85-01-01/1234", true},
+                                                            {"99-99-99/9999", true},
+                                                            {"85-01-01/12", false},
+                                                            {"85-01-01/12345", false},
+                                                            {"850101/1234", false},
+                                                            {"85-01-01-1234", false},
+                                                            {"8x-01-01/1234", false},
+                                                            {"85-01-01/123 ", false},
+                                                            {" 85-01-01/123", false},
+                                                            {"", false}};
+    for (const auto& [rc, dobra] : pripady)
+        EXPECT_EQ(base::rodne_cislo_ok(rc), dobra) << rc;
+}
+
+TEST(RodneCislo, DatumNarozeni) {
+    const std::vector<std::pair<const char*, const char*>> pripady{{"85-01-31/1234", "1985-01-31"},
+                                                                   {"85-51-31/1234", "1985-01-31"},
+                                                                   {"53-12-01/123", "1953-12-01"},
+                                                                   {"54-12-01/1234", "1954-12-01"},
+                                                                   {"53-12-01/1234", "2053-12-01"},
+                                                                   {"99-62-31/1234", "1999-12-31"},
+                                                                   {"04-29-05/1234", "2004-09-05"},
+                                                                   {"1579021234", "2015-09-02"},
+                                                                   {"00-02-29/1234", "2000-02-29"},
+                                                                   {"03-29-05/1234", ""},
+                                                                   {"85-13-01/1234", ""},
+                                                                   {"85-02-29/1234", ""},
+                                                                   {"85-00-01/1234", ""},
+                                                                   {"85-50-01/1234", ""},
+                                                                   {"85-01-01/12", ""},
+                                                                   {"85-01-01/12a4", ""},
+                                                                   {"", ""}};
+    for (const auto& [rc, datum] : pripady)
+        EXPECT_EQ(base::datum_iso(base::rc2datum(rc)), datum) << rc;
+}
+
 }  // namespace

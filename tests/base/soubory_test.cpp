@@ -62,6 +62,19 @@ TEST(Deniky, LogPridavaRadkySCasem) {
     EXPECT_FALSE(fs::exists(slozka / "Velmar/Logy/2022/zorv_TForm17_2022.log"));
 }
 
+TEST(Deniky, ChybyJsouPoRadcichAJenProVlastnika) {
+    const zkouska::DocasnaSlozka slozka;
+    const base::PevneHodiny hodiny({{2022, 3, 5}, 6, 7, 8});
+    const fs::path soubor = slozka / "Chyby.txt";
+    base::zapis_chybu(soubor, hodiny, {"base::ChybaDat", "Řádek.\r\nDruhý.", "Edit1->TForm14"});
+    base::zapis_chybu(soubor, hodiny, {"std::logic_error", "x", ""});
+    base::zapis_chybu(slozka / "neni/Chyby.txt", hodiny, {"a", "b", "c"});
+    EXPECT_EQ(base::precti_soubor(soubor, 1000),
+              "5.3.2022 6:07:08 : base::ChybaDat - Řádek. Druhý. Edit1->TForm14\r\n"
+              "5.3.2022 6:07:08 : std::logic_error - x \r\n");
+    EXPECT_EQ(fs::status(soubor).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+}
+
 TEST(Deniky, OknoSiPamatujeMisto) {
     const zkouska::DocasnaSlozka slozka;
     EXPECT_FALSE(base::nacti_okno(slozka.cesta(), "zorv", "TForm1"));

@@ -36,21 +36,6 @@ void zaloz_tabulku(const fs::path& slozka, const std::string& tabulka) {
     transakce.commit();
 }
 
-TEST(VelmarIni, ChybejiciSouborMaVychoziHodnotyARootJeKorenDiskuProgramu) {
-    const zkouska::DocasnaSlozka slozka;
-    const auto ini = slozka / "Velmar.ini";
-    const auto vychozi = shell::cti_velmar_ini(ini, "/opt/velmar");
-    EXPECT_EQ(vychozi.root, "/");
-    EXPECT_EQ(vychozi.font_size, 9);
-    EXPECT_TRUE(vychozi.pamatovat_okna && vychozi.logovat);
-    EXPECT_EQ(shell::cti_velmar_ini(ini, "d:\\Velmar").root, "D:");
-    base::zapis_soubor(ini, "[Data]\nroot=/data\n[Firma]\nmz=FIRMA22\n[System]\nlogovat=0\n");
-    const auto psany = shell::cti_velmar_ini(ini, "/opt/velmar");
-    EXPECT_EQ(psany.root, "/data");
-    EXPECT_EQ(psany.firma_mz, "FIRMA22");
-    EXPECT_FALSE(psany.logovat);
-}
-
 TEST(OtevreniFirmy, CestyRokARadekPlynouZNazvu) {
     Relace r;
     r.zaloz("firma22");

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
+#include <sqlite3.h>
 
 #include "base/text.h"
 #include "store/collation_test.h"
@@ -81,6 +82,35 @@ TEST_F(EngineOrder, StartTestPassesAgainAndAgain) {
     SkriptovanaObsluha operator_;
     for (int i = 0; i < 2; ++i) {
         EXPECT_TRUE(store::test_ceskeho_trideni(folder.cesta(), operator_, true));
+    }
+}
+
+int against_czech(void*, int a_size, const void* a, int b_size, const void* b) {
+    const std::string_view first(static_cast<const char*>(a), static_cast<std::size_t>(a_size));
+    return -first.compare({static_cast<const char*>(b), static_cast<std::size_t>(b_size)});
+}
+
+/// Leaves the folder's indexes as a library with another Czech order would have made them.
+void sort_by_another_version(const std::filesystem::path& folder) {
+    sqlite3* file = nullptr;
+    ASSERT_EQ(sqlite3_open((folder / store::Connection::file_name()).c_str(), &file), SQLITE_OK);
+    for (const char* name : {"CS", "CS_CI"})
+        sqlite3_create_collation(file, name, SQLITE_UTF8, nullptr, against_czech);
+    EXPECT_EQ(sqlite3_exec(file, "REINDEX; PRAGMA user_version=7", nullptr, nullptr, nullptr),
+              SQLITE_OK);
+    sqlite3_close(file);
+}
+
+TEST_F(EngineOrder, IndexesOfAnotherVersionOfTheOrderAreMadeAnewAtOpening) {
+    data.add_index("Lide", {"Presne", {"Prijmeni"}, false, false, true});
+    add("Lide", "Prijmeni", {in_order.begin(), in_order.end()});
+    for (const store::Access access : {store::Access::read_write, store::Access::read_only}) {
+        sort_by_another_version(folder.cesta());
+        EXPECT_NE(data.integrity_check(), "ok");
+        store::Connection again(folder.cesta(), access);
+        EXPECT_EQ(again.integrity_check(), "ok");
+        EXPECT_EQ(read(again, "SELECT Prijmeni FROM Lide ORDER BY Prijmeni"), joined());
+        EXPECT_EQ(read(again, "SELECT Prijmeni FROM Lide WHERE Prijmeni = 'Ch'"), "Ch");
     }
 }
 
