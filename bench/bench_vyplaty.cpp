@@ -6,7 +6,6 @@
 // Each worker has five gross rows, two fixed items and a child. The two measured works alternate
 // and the best of the repeats counts, so that a busy machine disturbs the ratio little.
 #include <algorithm>
-#include <chrono>
 #include <cstdlib>
 #include <filesystem>
 #include <fmt/format.h>
@@ -17,7 +16,7 @@
 #include <string>
 #include <vector>
 
-#include "base/obsluha.h"
+#include "bench/mereni.h"
 #include "payrun/unit21_vypocet_vyplat.h"
 #include "paysheet/listina.h"
 #include "paysheet/sloupce.h"
@@ -30,15 +29,12 @@
 namespace {
 
 namespace fs = std::filesystem;
+using mereni::DocasnaSlozka;
+using mereni::NikdoUKlaves;
+using mereni::sekundy;
 
 constexpr int k_opakovani = 5;
 constexpr const char* k_listina = "Listin01";
-
-double sekundy(const auto& prace) {
-    const auto od = std::chrono::steady_clock::now();
-    prace();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - od).count();
-}
 
 /// Peak resident memory of this process in MiB.
 double nejvyssi_pamet() {
@@ -48,45 +44,6 @@ double nejvyssi_pamet() {
     }
     return 0;
 }
-
-/// A folder that lives as long as the measurement.
-class DocasnaSlozka {
-  public:
-    DocasnaSlozka() {
-        std::string vzor = (fs::temp_directory_path() / "zorv-bench-XXXXXX").string();
-        if (!mkdtemp(vzor.data())) throw std::runtime_error("mkdtemp: " + vzor);
-        cesta = vzor;
-    }
-    ~DocasnaSlozka() {
-        std::error_code chyba;
-        fs::remove_all(cesta, chyba);
-    }
-    DocasnaSlozka(const DocasnaSlozka&) = delete;
-    DocasnaSlozka& operator=(const DocasnaSlozka&) = delete;
-    fs::path cesta;
-};
-
-/// Nobody sits at the keyboard: a question would stop the measurement.
-class NikdoUKlaves final : public base::Obsluha {
-  public:
-    void hlaska(const std::string&) override {}
-    bool otazka_ano_ne(const std::string& text, const std::string&) override {
-        throw std::runtime_error("nečekaná otázka: " + text);
-    }
-    void ukaz_hlasku(const std::string&, int) override {}
-    void skryj_hlasku() override {}
-    std::optional<std::string> vyber_slozku(const std::string&, const std::string&) override {
-        return {};
-    }
-    std::optional<std::string> vyber_soubor(const std::string&, const std::string&,
-                                            const std::string&) override {
-        return {};
-    }
-    void otevri_soubor(const std::string&) override {}
-    void pust_udalosti() override {}
-    void ukaz_modalne(base::Obrazovka&) override {}
-    void pipni() override {}
-};
 
 /// A company of `pracovniku` workers with the gross wages of January.
 class Firma {

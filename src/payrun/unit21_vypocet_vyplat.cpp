@@ -6,6 +6,7 @@
 #include "base/datum.h"
 #include "base/text.h"
 #include "payrun/pracovnik_mesice.h"
+#include "payrun/unit133_prohlizeni_mezd.h"
 #include "payrun/unit66_prohlizeni.h"
 #include "payrun/zaporne_povoleni.h"
 #include "store/catalogue.h"
@@ -106,6 +107,13 @@ void TForm21::BitBtn1Click() {
     if (beh_->bezi || !prohlizet_zaporne_viditelne) return;
     TForm66 prohlizeni(session_, "PROHLÍŽÍME  ZÁPORNÉ  VÝPLATY",
                        "select * from Zaporna order by cislo_pracovnika,modul,sloupec,Pocitadlo");
+    session_.obsluha().ukaz_modalne(prohlizeni);
+}
+
+void TForm21::acProhlizeniMezdExecute() {
+    if (beh_->bezi || !vysledky_viditelne) return;
+    TForm133 prohlizeni(session_, beh_->mesic);
+    prohlizeni.FormShow();
     session_.obsluha().ukaz_modalne(prohlizeni);
 }
 

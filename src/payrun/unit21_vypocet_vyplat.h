@@ -45,6 +45,8 @@ class TForm21 final : public base::Obrazovka {
     void Button3Click();  ///< "Přerušit"
     void Button1Click();  ///< "Zpět"
     void BitBtn1Click();  ///< "Prohlížet záporné výplaty"
+    /// "Prohlížení mezd" of the sheet just made; offered beside the results.
+    void acProhlizeniMezdExecute();
 
   private:
     struct Beh;

@@ -90,6 +90,14 @@ void TForm50::ukaz_vetu(const char* nadpis_vety, store::Table::Bookmark puvodni)
     oznam_zmenu();
 }
 
+void TForm50::najdi_pracovnika(int cislo) {
+    const auto sloupec = static_cast<std::size_t>(vety.column("Cislo_pracovnika"));
+    const auto it = std::find_if(vety.rows.begin(), vety.rows.end(), [&](const store::Row& veta) {
+        return veta[sloupec].as_integer() == cislo;
+    });
+    if (it != vety.rows.end()) vyber_radek(static_cast<int>(it - vety.rows.begin()));
+}
+
 void TForm50::Button2Click() {
     if (ceka_na_obsluhu_) return;
     const Cekani cekani(ceka_na_obsluhu_);
@@ -124,6 +132,14 @@ void TForm50::Button1Click() {
     blok_.close();
     zavreno = true;
     oznam_zmenu();
+}
+
+void zaloz_soubor_pro_blokovani(shell::Session& session) {
+    const std::string tabulka = store::month_table("Blok", session.zpracovavany_mesic);
+    if (session.data().table_exists(tabulka)) return;
+    store::Transaction transakce(session.data());
+    session.data().create_table(store::definition_of(tabulka));
+    transakce.commit();
 }
 
 }  // namespace payrun

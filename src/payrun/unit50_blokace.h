@@ -26,6 +26,8 @@ class TForm50 final : public base::Obrazovka {
     bool zavreno = false;
 
     void FormShow();
+    /// Puts the cursor on the first row of a worker; without one it stays.
+    void najdi_pracovnika(int cislo);
     /// The cursor of the grid moved to a row, from 0.
     void vyber_radek(int novy);
     void Button2Click();  ///< "+"
@@ -43,5 +45,8 @@ class TForm50 final : public base::Obrazovka {
     void ukaz_vetu(const char* nadpis_vety, store::Table::Bookmark puvodni);
     void obnov(std::int64_t pocitadlo);
 };
+
+/// Makes the table of blocked values of `zpracovavany_mesic` when it is missing.
+void zaloz_soubor_pro_blokovani(shell::Session& session);
 
 }  // namespace payrun

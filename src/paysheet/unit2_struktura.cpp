@@ -1,10 +1,14 @@
 #include "paysheet/unit2_struktura.h"
 
 #include <fmt/format.h>
+#include <functional>
+#include <set>
 #include <system_error>
+#include <utility>
 
 #include "base/text.h"
 #include "store/catalogue.h"
+#include "store/query.h"
 #include "store/table.h"
 
 namespace paysheet {
@@ -59,15 +63,36 @@ void Zapis_vetu(store::Table& ridici, int modul, int sloupec, const std::string&
     ridici.post();
 }
 
-/// One row for each column of each module present, in module order.
-void Nacti_hodnoty_databaze(store::Table& ridici, const shell::RidiciZorv& zaznam) {
+/// Calls `s` with each column of each module present, in module order.
+void projdi_sloupce(const shell::RidiciZorv& zaznam,
+                    const std::function<void(const Modul& modul, int sloupec)>& s) {
     for (const Modul& m : k_moduly) {
         if (m.chybi(zaznam)) continue;
-        for (int sloupec = m.prvni(zaznam); sloupec <= m.posledni(zaznam); ++sloupec) {
-            const std::string cislo = m.je_rozsah() ? std::to_string(sloupec) : "";
-            Zapis_vetu(ridici, m.cislo, sloupec, m.text + cislo);
-        }
+        for (int sloupec = m.prvni(zaznam); sloupec <= m.posledni(zaznam); ++sloupec)
+            s(m, sloupec);
     }
+}
+
+void Nacti_hodnoty_databaze(store::Table& ridici, const shell::RidiciZorv& zaznam) {
+    projdi_sloupce(zaznam, [&](const Modul& m, int sloupec) {
+        const std::string cislo = m.je_rozsah() ? std::to_string(sloupec) : "";
+        Zapis_vetu(ridici, m.cislo, sloupec, m.text + cislo);
+    });
+}
+
+/// A column and the module that it belongs to.
+using SloupecModulu = std::pair<std::int64_t, std::int64_t>;
+
+/// "5 (modul 1), 6 (modul 2)": the columns of `jedny` that the others do not have.
+std::string jen_v_prvnich(const std::set<SloupecModulu>& jedny,
+                          const std::set<SloupecModulu>& druhe) {
+    std::string vypis;
+    for (const auto& sloupec : jedny) {
+        if (druhe.contains(sloupec)) continue;
+        vypis += fmt::format("{}{} (modul {})", vypis.empty() ? "" : ", ", sloupec.first,
+                             sloupec.second);
+    }
+    return vypis;
 }
 
 void zaloz_ridici_databazi(store::Connection& data, const shell::RidiciZorv& zaznam) {
@@ -160,6 +185,21 @@ void TForm2::btOKClick() {
 void TForm2::btZpetClick() {
     zavreno = true;
     oznam_zmenu();
+}
+
+std::string nesoulad_sloupcu(store::Connection& data, const shell::RidiciZorv& zaznam) {
+    std::set<SloupecModulu> v_zaznamu, v_tabulce;
+    projdi_sloupce(zaznam,
+                   [&](const Modul& m, int sloupec) { v_zaznamu.emplace(sloupec, m.cislo); });
+    store::Query ridici(data, "SELECT Sloupec, Modul FROM Ridici");
+    for (ridici.open(); !ridici.eof(); ridici.next())
+        v_tabulce.emplace(ridici.integer(0), ridici.integer(1));
+    const std::string chybi = jen_v_prvnich(v_zaznamu, v_tabulce);
+    const std::string navic = jen_v_prvnich(v_tabulce, v_zaznamu);
+    if (chybi.empty() && navic.empty()) return "";
+    return "Řídicí záznam a tabulka Ridici mají jiné sloupce." +
+           (chybi.empty() ? "" : " V tabulce chybí: " + chybi + ".") +
+           (navic.empty() ? "" : " V tabulce navíc: " + navic + ".");
 }
 
 void Vypln_formular_2(TForm2& form) {

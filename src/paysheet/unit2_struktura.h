@@ -40,6 +40,11 @@ class TForm2 final : public base::Obrazovka {
     static bool Interval_chybny(int od, int do_);
 };
 
+/// The record and the rows of `Ridici` are a pair. A sentence naming the columns in which they
+/// differ,
+/// "" when they agree.
+std::string nesoulad_sloupcu(store::Connection& data, const shell::RidiciZorv& zaznam);
+
 /// Presets "1" to "18".
 void Vypln_formular_2(TForm2& form);
 

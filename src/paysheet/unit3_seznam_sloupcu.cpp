@@ -3,9 +3,12 @@
 #include <fmt/format.h>
 
 #include "base/castky_text.h"
+#include "base/datum.h"
 #include "base/text.h"
 #include "paysheet/sloupce.h"
 #include "paysheet/unit4_sloupec.h"
+#include "report/nahled.h"
+#include "report/tabulkova.h"
 
 namespace paysheet {
 
@@ -141,7 +144,23 @@ void TForm3::btSmazatClick() {
 }
 
 void TForm3::btTiskClick() {
-    session_.obsluha().hlaska("Tisk sloupců výplatní listiny v této verzi ještě není.");
+    report::TabulkovaSestava sestava;
+    sestava.nazev = nadpis;
+    sestava.zahlavi = {"Vytištěno " + base::datum_textem(session_.hodiny().nyni().datum)};
+    sestava.sloupce = {{"modul", 14, report::Zarovnani::vpravo},
+                       {"název modulu", 45},
+                       {"sloupec", 16, report::Zarovnani::vpravo},
+                       {"text", 60},
+                       {"výpočet", 50}};
+    for (const Sloupec& s : sloupce) {
+        const bool pocita =
+            (s.modul == 1 || s.modul == 3) && ridici_.locate("Pocitadlo", s.pocitadlo);
+        sestava.radky.push_back(
+            {std::to_string(s.modul), s.calModulSlovy, std::to_string(s.sloupec), s.text,
+             pocita ? varianta_vypoctu(static_cast<int>(ridici_.integer("var_vyp"))) : ""});
+    }
+    report::TFUsrPrev nahled(report::sestav_tabulku(sestava));
+    session_.obsluha().ukaz_modalne(nahled);
 }
 
 void TForm3::btZpetClick() {

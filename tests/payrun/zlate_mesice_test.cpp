@@ -4,8 +4,10 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 
+#include "base/castky_text.h"
 #include "base/soubory.h"
 #include "base/text.h"
+#include "payrun/unit133_prohlizeni_mezd.h"
 #include "payrun/vypocet_mesice.h"
 #include "payrun/vysvetleni.h"
 #include "paysheet/sloupce.h"
@@ -142,6 +144,45 @@ class ZlateMesice : public testing::TestWithParam<std::string> {
         }
     }
 
+    /// The browser shows the same rows by module and column, and explains every one of them.
+    void zkontroluj_prohlizeni(int mesic, const std::string& tabulka) {
+        payrun::TForm133 form(firma.session, mesic);
+        form.FormShow();
+        for (std::size_t i = 0; i < form.pracovnici.size(); ++i) {
+            form.vyber_pracovnika(static_cast<int>(i));
+            const std::string cislo = std::to_string(form.pracovnici[i].cislo);
+            SCOPED_TRACE("prohlížení, pracovník " + cislo);
+            store::Query q(firma.data(), "SELECT * FROM " + tabulka + " WHERE Cislo_pracovnika = " +
+                                             cislo + " ORDER BY Pocitadlo");
+            store::Rows listina = store::read_all(q);
+            const auto modul = static_cast<std::size_t>(listina.column("Modul"));
+            const auto sloupec = static_cast<std::size_t>(listina.column("Sloupec"));
+            std::stable_sort(listina.rows.begin(), listina.rows.end(), [&](auto& a, auto& b) {
+                return std::pair(a[modul].as_integer(), a[sloupec].as_integer()) <
+                       std::pair(b[modul].as_integer(), b[sloupec].as_integer());
+            });
+            ASSERT_EQ(form.radky.size(), listina.rows.size());
+            form.vysvetli();
+            EXPECT_TRUE(form.scChyby.empty());
+            for (std::size_t r = 0; r < form.radky.size(); ++r) {
+                const auto pole = [&](const char* jmeno) {
+                    return listina.rows[r][static_cast<std::size_t>(listina.column(jmeno))];
+                };
+                const payrun::RadekListiny& radek = form.radky[r];
+                EXPECT_EQ(radek.modul, pole("Modul").as_integer());
+                EXPECT_EQ(radek.co_je_to, pole("Co_je_to").as_text());
+                const bool cas = !radek.hodnota && (radek.dny || radek.hodiny);
+                const auto castka = cas ? (radek.dny ? radek.dny : radek.hodiny) : radek.hodnota;
+                EXPECT_EQ(castka.has_value(), !pole("Hodnota").is_empty());
+                EXPECT_EQ(static_cast<double>(castka.value_or(0)), pole("Hodnota").as_number());
+                form.vyber_radek(static_cast<int>(r));
+                EXPECT_EQ(form.rozdil, "");
+                ASSERT_FALSE(form.strom.uzly().empty());
+                EXPECT_EQ(form.strom.uzel(0).hodnota, base::castka_prosta(castka.value_or(0)));
+            }
+        }
+    }
+
     struct Beh {
         int mesic = 0;
         std::string odpovedi;
@@ -179,7 +220,10 @@ TEST_P(ZlateMesice, OdpovidajiVypoctuZPera) {
         EXPECT_EQ(firma.data().table_exists("Zaporna"), vysledek == "Zaporna");
         if (vysledek.empty()) continue;
         zkontroluj_radky(vysledek == listin ? ocekavano : zaporna, vysledek);
-        if (vysledek == listin) zkontroluj_vysvetleni(beh.mesic, listin);
+        if (vysledek == listin) {
+            zkontroluj_vysvetleni(beh.mesic, listin);
+            zkontroluj_prohlizeni(beh.mesic, listin);
+        }
 
         const std::string poprve = listina(firma, vysledek);
         spust(beh);

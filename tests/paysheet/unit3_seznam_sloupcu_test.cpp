@@ -7,6 +7,8 @@
 #include "base/klavesy.h"
 #include "paysheet/sloupce.h"
 #include "paysheet/unit4_sloupec.h"
+#include "report/nahled.h"
+#include "report/text.h"
 #include "support/zkusebni_firma.h"
 
 namespace {
@@ -88,9 +90,25 @@ TEST_F(SeznamSloupcu, TlacitkaBezObrazovkyToReknouJednouVetou) {
     form.FormShow();
     form.btPridatClick();
     form.btSmazatClick();
-    form.btTiskClick();
-    EXPECT_EQ(firma.obsluha.hlasky.size(), 3U);
+    EXPECT_EQ(firma.obsluha.hlasky.size(), 2U);
     EXPECT_EQ(firma.vypis("SELECT COUNT(*) FROM Ridici"), "18\n");
+}
+
+TEST_F(SeznamSloupcu, TiskUkazeVsechnySloupceVNahledu) {
+    uprav("UPDATE Ridici SET var_vyp = 5 WHERE Sloupec = 2");
+    form.FormShow();
+    std::string nazev, text;
+    firma.obsluha.pri_obrazovce = [&](base::Obrazovka& obrazovka) {
+        const auto& nahled = dynamic_cast<report::TFUsrPrev&>(obrazovka);
+        nazev = nahled.dokument.nazev;
+        text = report::jako_text(nahled.dokument);
+    };
+    form.btTiskClick();
+    EXPECT_EQ(nazev, "Parametry výplatní listiny - " + firma.session.radek_firmy);
+    for (const auto& sloupec : form.sloupce)
+        EXPECT_NE(text.find(sloupec.text), std::string::npos) << sloupec.text;
+    EXPECT_NE(text.find("1 x 2"), std::string::npos);
+    EXPECT_EQ(form.radek, 0) << "kurzor zůstal";
 }
 
 TEST_F(SeznamSloupcu, OpravaUloziVsechnyUdajeARadekZustaneOznaceny) {

@@ -1,0 +1,144 @@
+// A worker's new number reaches all tables or none: saving the card is killed at every write to the
+// disk, and every write fails once.
+#include <filesystem>
+#include <fmt/format.h>
+#include <set>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "store/fault_vfs.h"
+#include "store/query.h"
+#include "support/zkusebni_firma.h"
+#include "workers/unit7_karta.h"
+
+namespace zkouska {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr long k_nejvice_operaci = 2000;
+
+class OdolnostKarty : public testing::Test {
+  protected:
+    OdolnostKarty() {
+        {
+            const FaultyDisk sleduj(Fault::none, 0);
+            ZkusebniFirma firma;
+            firma.vloz("Zdr_poj", "Cislo,Nazev\n1,Všeobecná\n");
+            firma.vloz("Os_karty",
+                       "Cislo,Prijmeni,Jmeno,Dat_nar_text,tpd,Cislo_zdrav_poj\n"
+                       "7,Novák,Petr,1.1.1980,40,1\n8,Malá,Eva,1.1.1980,40,1\n");
+            for (const int mesic : {1, 12}) {
+                const std::string vety =
+                    "Cislo_pracovnika,Prijmeni,Jmeno\n7,Novák,Petr\n8,Malá,Eva\n";
+                firma.vloz(fmt::format("Hrube{:02}", mesic), vety);
+                firma.vloz(fmt::format("Listin{:02}", mesic), vety);
+            }
+            firma.vloz("Fixni", "Cislo_pracovnika,Sloupec,Kcs\n7,13,200\n");
+            firma.session.zavri_spojeni();
+            fs::copy(firma.slozka.cesta(), puvodni(), fs::copy_options::recursive);
+        }
+        obnov();
+        stare_ = obsah();
+        uloz_kartu();
+        nove_ = obsah();
+    }
+    fs::path puvodni() const { return dilna_ / "puvodni"; }
+    fs::path zkousena() const { return dilna_ / "zkousena"; }
+    void obnov() {
+        fs::remove_all(zkousena());
+        fs::copy(puvodni(), zkousena(), fs::copy_options::recursive);
+    }
+    /// Worker 7 becomes 77 with another name.
+    void uloz_kartu() {
+        SkriptovanaObsluha obsluha;
+        base::PevneHodiny hodiny({{2022, 1, 15}, 8, 0, 0});
+        base::SystemovaNahoda nahoda;
+        shell::Session session({obsluha, hodiny, nahoda}, zkousena() / "program");
+        session.koren_dat = zkousena();
+        session.firma = "FIRMA22";
+        shell::cti_konfiguracni_soubor(session);
+        workers::TForm7 karta(session, {});
+        karta.acOpravitExecute(1);
+        karta.FormShow();
+        karta.psani("Cislo", "77");
+        karta.psani("Jmeno", "Pavel");
+        karta.acUlozitExecute();
+        if (!karta.ulozeno) throw std::logic_error("karta se neuložila");
+    }
+    std::string obsah() const {
+        store::Connection data(zkousena() / "FIRMA22" / "Zorv");
+        EXPECT_EQ(data.integrity_check(), "ok");
+        std::string vse;
+        for (const std::string& tabulka : data.tables()) {
+            if (data.describe(tabulka).field_index("Cislo_pracovnika") < 0 && tabulka != "Os_karty")
+                continue;
+            store::Query q(data, "SELECT * FROM " + tabulka);
+            const store::Rows vety = store::read_all(q);
+            for (const store::Row& veta : vety.rows) {
+                for (const store::Value& hodnota : veta)
+                    vse += hodnota.as_text() + "|";
+            }
+        }
+        return vse;
+    }
+    void over(bool dokonceno) {
+        const std::string nalezeno = obsah();
+        EXPECT_TRUE(nalezeno == stare_ || nalezeno == nove_) << "zčásti staré, zčásti nové";
+        if (dokonceno) {
+            EXPECT_EQ(nalezeno, nove_);
+        }
+        videno_.insert(nalezeno == nove_);
+    }
+
+    DocasnaSlozka dilna_;
+    std::string stare_, nove_;
+    std::set<bool> videno_;
+};
+
+TEST_F(OdolnostKarty, ZabityKdykoliNechaStareNeboNoveCisloVsude) {
+    ASSERT_NE(stare_, nove_);
+    bool zabito = true;
+    long n = 0;
+    while (zabito && n < k_nejvice_operaci && !HasFailure()) {
+        SCOPED_TRACE(++n);
+        obnov();
+        const pid_t potomek = fork();
+        if (potomek == 0) {
+            const FaultyDisk disk(Fault::kill, n);
+            uloz_kartu();
+            _exit(0);
+        }
+        int stav = 0;
+        ASSERT_EQ(waitpid(potomek, &stav, 0), potomek);
+        ASSERT_TRUE(WIFEXITED(stav));
+        zabito = WEXITSTATUS(stav) == killed_status;
+        over(!zabito);
+    }
+    EXPECT_GT(n, 10);
+    EXPECT_EQ(videno_.size(), 2U);
+}
+
+TEST_F(OdolnostKarty, SelhaniZapisuNechaStareNeboNoveCisloVsude) {
+    bool zasazeno = true;
+    long n = 0;
+    while (zasazeno && n < k_nejvice_operaci && !HasFailure()) {
+        SCOPED_TRACE(++n);
+        obnov();
+        bool dokonceno = true;
+        {
+            const FaultyDisk disk(Fault::error_once, n);
+            try {
+                uloz_kartu();
+            } catch (const base::ChybaDat&) {
+                dokonceno = false;
+            }
+            zasazeno = disk.struck();
+        }
+        over(dokonceno);
+    }
+    EXPECT_GT(n, 10);
+}
+
+}  // namespace
+}  // namespace zkouska
