@@ -12,6 +12,8 @@
 #include "base/text.h"
 #include "paysheet/unit2_struktura.h"
 #include "shell/nova_firma.h"
+#include "workers/pojistovny.h"
+#include "workers/unit26_pojistovny.h"
 
 namespace cli {
 
@@ -57,6 +59,8 @@ class FirmaZaloz final : public Sloveso {
                          "6, 7, 8, 9, 10 od, 10 do, 11, 12, 13, 14; 0 je modul, který není "
                          "(jinak 1 až 18)")
             ->type_name("\"1 2 3 ...\"");
+        uzel->add_flag("--pojistovny", pojistovny_,
+                       "doplní zdravotní pojišťovny České republiky (111 až 213)");
         return uzel;
     }
 
@@ -64,6 +68,7 @@ class FirmaZaloz final : public Sloveso {
         zadane_pole_ = pole_struktury();
         auto& session = kontext.session;
         session.firma = base::velkymi(base::orez(nazev_));
+        kontext.priprav_koren_dat();
         const fs::path slozka = kontext.koren_dat() / session.firma;
         const bool nova = !ceka_na_strukturu(kontext);
         if (nova) {
@@ -78,6 +83,8 @@ class FirmaZaloz final : public Sloveso {
             [this](paysheet::TForm2& form) { vypln(form); });
         if (!kontext.hlavni_okno.zaloz_soubory()) throw odmitni(spoj(chyby_, "\n"));
         rozdelana.ponech();
+        if (pojistovny_ && workers::Nacti_pojistovny(session).empty())
+            workers::dopln_zdravotni_pojistovny(session);
         kontext.out << "Firma " << session.firma << " je založená ve složce "
                     << shell::slozka_firmy(session.koren_dat, session.firma).string() << ".\n";
         return hotovo;
@@ -125,6 +132,7 @@ class FirmaZaloz final : public Sloveso {
     std::string nazev_;
     shell::UdajeFirmy udaje_;
     std::string struktura_ = "1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18";
+    bool pojistovny_ = false;
     PoleStruktury zadane_pole_;
     std::vector<std::string> chyby_;
 };

@@ -38,6 +38,9 @@ void pridej_spolecne_volby(CLI::App& program, Volby& volby) {
     program.add_option_function<std::string>("--datum", nacti_datum, "který den je dnes")
         ->type_name("RRRR-MM-DD")
         ->take_last();
+    program.add_option("--pdf", volby.pdf, "sestavu uloží jako PDF místo výpisu")
+        ->type_name("SOUBOR")
+        ->take_last();
     program.add_flag("--ano", volby.ano, "na každou otázku odpoví ano");
     program.add_flag("--ne", volby.ne, "na každou otázku odpoví ne");
 }
@@ -98,7 +101,10 @@ int hlavni(const std::vector<std::string>& argumenty, std::istream& in, std::ost
         Sloveso& sloveso = program.vyber(argumenty);
         const auto slozka = std::filesystem::path(argumenty.front()).parent_path();
         Kontext kontext(slozka, program.volby, in, out, err, terminaly);
-        return sloveso.proved(kontext);
+        const int stav = sloveso.proved(kontext);
+        if (stav != hotovo || !kontext.tisk.chybi_pdf()) return stav;
+        return ohlas(err, spatne_pouziti,
+                     "Sloveso žádnou sestavu netiskne, soubor volby --pdf nevznikl.");
     } catch (const CLI::CallForHelp&) {
         out << program.koren.help();
         return hotovo;

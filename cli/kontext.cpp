@@ -32,10 +32,20 @@ Kontext::Kontext(const std::filesystem::path& slozka_programu, Volby volby, std:
       err(err_),
       terminaly(terminaly_),
       obsluha(in, err, pevna_odpoved(volby_), terminaly.vstup && terminaly.chyby),
+      tisk(volby_.pdf, out, err),
       session({obsluha, *hodiny_, nahoda_}, slozka_programu),
       hlavni_okno(session) {
-    session.velmar = shell::cti_velmar_ini(slozka_programu / "Velmar.ini", slozka_programu);
+    obsluha.pri_obrazovce<report::TFUsrPrev>(
+        [this](report::TFUsrPrev& nahled) { tisk.vytiskni(nahled); });
+    session.velmar = shell::cti_velmar_ini(shell::slozky_programu(slozka_programu));
     session.koren_dat = volby_.root.empty() ? session.velmar.root : volby_.root;
+}
+
+void Kontext::priprav_koren_dat() const {
+    const auto slozky = shell::slozky_programu(session.slozka_programu);
+    if (slozky.vlastni.empty() || session.koren_dat != shell::vychozi_koren_dat(slozky)) return;
+    std::error_code chyba;
+    std::filesystem::create_directory(session.koren_dat, chyba);
 }
 
 const std::filesystem::path& Kontext::koren_dat() const {

@@ -8,6 +8,7 @@
 
 #include "cli/hlavni.h"
 #include "cli/obsluha_terminalu.h"
+#include "cli/tisk_nahledu.h"
 
 #include "base/hodiny.h"
 #include "menu/unit1_hlavni.h"
@@ -22,6 +23,7 @@ struct Volby {
     std::string firma;
     base::Datum datum;  ///< today, when given
     bool ano = false, ne = false;
+    std::string pdf;  ///< file for the reports that the verb prints
 };
 
 class Kontext {
@@ -30,7 +32,7 @@ class Kontext {
     base::SystemovaNahoda nahoda_;
 
   public:
-    /// `Velmar.ini` is read from the program's folder; no company is open yet.
+    /// `Velmar.ini` is read; no company is open yet.
     Kontext(const std::filesystem::path& slozka_programu, Volby volby, std::istream& in_,
             std::ostream& out_, std::ostream& err_, Terminaly terminaly_);
 
@@ -39,9 +41,13 @@ class Kontext {
     std::ostream& err;
     const Terminaly terminaly;
     ObsluhaTerminalu obsluha;
+    TiskNahledu tisk;
     shell::Session session;
     menu::TForm1 hlavni_okno;
 
+    /// Makes the default data root of an installed program when it is missing; any other has to
+    /// be there.
+    void priprav_koren_dat() const;
     /// The data root; ends the verb when it is no folder.
     const std::filesystem::path& koren_dat() const;
     /// Puts the company of --firma (or of `Velmar.ini`) into the session. Ends the verb when there

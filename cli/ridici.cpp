@@ -9,6 +9,7 @@
 #include "cli/texty.h"
 
 #include "base/text.h"
+#include "paysheet/unit2_struktura.h"
 
 namespace cli {
 
@@ -42,6 +43,10 @@ class RidiciZaznam final : public Sloveso {
         if (!proc_ne.empty()) throw odmitni(proc_ne);
         shell::zapis_zaznam(session.soubor_ridici_zorv(), shell::bajty(zmeneny));
         session.ridici_zorv = zmeneny;
+        if (jedno.nazev.starts_with("modul")) {
+            const auto nesoulad = paysheet::nesoulad_sloupcu(session.data(), zmeneny);
+            if (!nesoulad.empty()) kontext.err << "Pozor: " << nesoulad << '\n';
+        }
         return hotovo;
     }
 

@@ -5,6 +5,8 @@
 #include <functional>
 #include <string>
 
+#include "base/deniky.h"
+
 namespace desktop {
 
 class Aplikace final : public QApplication {
@@ -13,15 +15,21 @@ class Aplikace final : public QApplication {
 
     /// How an error is shown; set once the operator is at hand.
     std::function<void(const std::string& text)> ohlas_chybu;
+    /// Where an error is noted down; may be empty. Not called where another program keeps the data
+    /// busy, which is no error of this one.
+    std::function<void(const base::ZaznamChyby& chyba)> zapis_chybu;
 
     bool notify(QObject* prijemce, QEvent* udalost) override;
-    /// Runs a step of the start outside the event loop under the same protection.
-    void proved(const std::function<void()>& krok);
+    /// Runs a step under the same protection: one of the start, outside the event loop, or the
+    /// handling of an event by `prijemce`.
+    void proved(const std::function<void()>& krok, const QObject* prijemce = nullptr);
     /// The core asked for the end: all windows are closed and the loop is left.
     void ukonci();
     bool ukoncena() const { return ukoncena_; }
 
   private:
+    void ohlas(const std::exception& chyba, const QObject* prijemce) const;
+
     bool ukoncena_ = false;
 };
 

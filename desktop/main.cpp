@@ -1,11 +1,13 @@
-// The program `zorv`: options, the start sequence, the message loop.
+// The program `zorv`: options, the start sequence, the message loop, the restart.
 #include <QCommandLineParser>
 #include <QMessageBox>
 
 #include "base/hodiny.h"
+#include "base/slozky.h"
 #include "desktop/aplikace.h"
 #include "desktop/obsluha_qt.h"
 #include "desktop/okno_form1.h"
+#include "desktop/restart.h"
 #include "desktop/text_qt.h"
 #include "desktop/vzhled.h"
 #include "menu/unit1_hlavni.h"
@@ -51,23 +53,34 @@ void priprav(desktop::Aplikace& aplikace, Program& program, const Volby& volby) 
     if (!volby.firma.empty()) session.firma = volby.firma;
     desktop::nastav_vzhled(aplikace, session.velmar.vzhled_id, session.velmar.font_size);
     program.obsluha.ukaz_hlasku("Spouštím Zorv...", 0);
-    store::test_ceskeho_trideni(session.slozka_programu, program.obsluha, true);
+    const auto slozky = shell::slozky_programu(session.slozka_programu);
+    store::test_ceskeho_trideni(shell::slozka_pro_zapis(slozky), program.obsluha, true);
 }
 
-int spust(desktop::Aplikace& aplikace, const Volby& volby) {
-    Program program(desktop::z_qt(QApplication::applicationDirPath()));
+struct Konec {
+    int stav = 1;
+    std::string spustit;  ///< the program to be started when nothing of this one is open
+};
+
+Konec spust(desktop::Aplikace& aplikace, const std::filesystem::path& slozka_programu,
+            const Volby& volby) {
+    Program program(slozka_programu);
     aplikace.ohlas_chybu = [&](const std::string& text) {
         program.obsluha.skryj_hlasku();
         program.obsluha.hlaska(text);
     };
+    aplikace.zapis_chybu = [&](const base::ZaznamChyby& chyba) {
+        const auto slozka = shell::slozka_pro_zapis(shell::slozky_programu(slozka_programu));
+        base::zapis_chybu(slozka / "Chyby.txt", program.hodiny, chyba);
+    };
     aplikace.proved([&] { priprav(aplikace, program, volby); });
-    if (aplikace.ukoncena()) return 1;
+    if (aplikace.ukoncena()) return {};
     desktop::OknoForm1 okno(program.form, program.session);
     aplikace.proved([&] { okno.otevri(); });
-    if (aplikace.ukoncena()) return 1;
+    if (aplikace.ukoncena()) return {};
     const int stav = QApplication::exec();
     program.form.FormDestroy();
-    return stav;
+    return {stav, program.form.spustit_po_zavreni};
 }
 
 }  // namespace
@@ -79,5 +92,8 @@ int main(int pocet, char** argumenty) {
         QMessageBox::warning(nullptr, menu::k_nadpis_odmitnuti, desktop::radky(odmitnuti));
         return 1;
     }
-    return spust(aplikace, precti_volby(QApplication::arguments()));
+    const QStringList vse = QApplication::arguments();
+    const Konec konec = spust(aplikace, base::slozka_programu(argumenty[0]), precti_volby(vse));
+    if (!konec.spustit.empty()) desktop::spust_po_zavreni(konec.spustit, vse.mid(1));
+    return konec.stav;
 }

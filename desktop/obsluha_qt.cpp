@@ -90,6 +90,8 @@ void ObsluhaQt::ukaz_modalne(base::Obrazovka& obrazovka) {
     }
     const PametOken pamet(*session_);
     pamet.obnov(*okno);
+    base::log_akce(session_->velmar.logovat, base::slozka_uzivatele(), session_->hodiny(),
+                   base::k_program, obrazovka.jmeno(), base::k_log_otevreni);
     okno->exec();
     pamet.uloz(*okno);
 }

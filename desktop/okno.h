@@ -1,5 +1,6 @@
 // The common ground of the modal windows: binding to a screen, the row of buttons, the keys (Enter
-// moves to the next field, F2 stores, Escape leaves).
+// moves to the next field, F2 stores, Escape leaves). No window is larger than the screen; content
+// that does not fit scrolls above the buttons.
 #pragma once
 
 #include <QDialog>
@@ -10,6 +11,7 @@
 #include "desktop/vazba.h"
 #include "shell/session.h"
 
+class QBoxLayout;
 class QHBoxLayout;
 class QPushButton;
 class QVBoxLayout;
@@ -40,6 +42,10 @@ class Okno : public QDialog {
     void showEvent(QShowEvent* udalost) override;
 
   private:
+    QBoxLayout& rozlozeni() const;
+    QSize misto_tlacitek() const;
+    void zalom_tlacitka();
+
     base::Obrazovka& obrazovka_;
     Vazba vazba_;
     QVBoxLayout* obsah_;

@@ -1,10 +1,12 @@
 #include "desktop/okno_form1.h"
 
+#include <QAbstractItemView>
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMenuBar>
 #include <QPushButton>
@@ -12,7 +14,9 @@
 #include <QSpinBox>
 #include <QVBoxLayout>
 
+#include "desktop/mnemonika.h"
 #include "desktop/poloha_okna.h"
+#include "desktop/posuvny_obsah.h"
 #include "desktop/rok_okno.h"
 #include "desktop/text_qt.h"
 #include "desktop/vzhled.h"
@@ -27,6 +31,7 @@ using menu::Akce;
 using menu::Skupina;
 
 constexpr QSize k_pozadi{128, 80};
+constexpr std::string_view k_restart = "acRestart";
 
 /// Columns of the action buttons, each a part of the month's and the year's road.
 const std::vector<std::vector<Skupina>> k_sloupce{
@@ -47,15 +52,19 @@ std::vector<Akce> akce_skupiny(Skupina skupina) {
 
 OknoForm1::OknoForm1(menu::TForm1& form, shell::Session& session) : form_(form), session_(session) {
     setObjectName("TForm1");
-    auto* stred = new QWidget;
-    auto* svisle = new QVBoxLayout(stred);
+    auto* svisle = new QVBoxLayout;
     svisle->setSpacing(10);
     svisle->addWidget(hlavicka());
     rok_ = new RokOkno;
     rok_->pri_vyberu = [this](int mesic) { mesic_->setValue(mesic); };
+    rok_->pri_otevreni = [this](int mesic) {
+        mesic_->setValue(mesic);
+        proved(*menu::najdi_akci("acProhlizetZakladniSoubory"));
+    };
     svisle->addWidget(rok_, 1);
     svisle->addWidget(tlacitka_akci());
-    setCentralWidget(stred);
+    setCentralWidget(
+        new PosuvnyObsah(*svisle, [this] { return QSize(0, menuBar()->sizeHint().height()); }));
     hlavni_nabidka();
     vazba_.pri_obnove([this] {
         setWindowTitle(do_qt(form_.titulek));
@@ -70,7 +79,7 @@ OknoForm1::~OknoForm1() {
 }
 
 void OknoForm1::otevri() {
-    resize(1280, 700);
+    resize(QSize(1280, 700).boundedTo(nejvetsi_okno(*this)));
     if (form_.poloha_okna) umisti_okno(*this, *form_.poloha_okna);
     obnov();
     show();
@@ -121,6 +130,8 @@ QWidget* OknoForm1::vyber_firmy() {
         form_.ComboBox1Change(z_qt(text));
         obnov_rok();
     });
+    firmy_->installEventFilter(this);
+    firmy_->view()->installEventFilter(this);
     vazba_.pri_obnove([this] { obnov_seznam_firem(); });
     vodorovne->addWidget(firmy_);
 
@@ -197,19 +208,23 @@ QWidget* OknoForm1::skupina_akci(Skupina skupina) {
     return ramec;
 }
 
-// Every action stands in the menu, those with a shortcut and no caption too.
+// Every action with a caption stands in the menu. Those without have their shortcuts; the restart
+// has neither, so the menu names it.
 void OknoForm1::hlavni_nabidka() {
+    Mnemoniky hlavni("ms");  // the month box and the button "Změnit"
     for (int i = 0; i <= static_cast<int>(Skupina::program); ++i) {
         const auto skupina = static_cast<Skupina>(i);
-        QMenu* nabidka = menuBar()->addMenu(QString::fromUtf8(menu::skupina_slovy(skupina)));
+        QMenu* nabidka = menuBar()->addMenu(hlavni.pridej(popisek(menu::skupina_slovy(skupina))));
+        Mnemoniky polozky;
         for (const Akce& akce : menu::vsechny_akce()) {
             if (akce.skupina != skupina) continue;
-            auto* polozka = new QAction(popisek(akce.popisek), this);
+            auto* polozka = new QAction(polozky.pridej(popisek(akce.popisek)), this);
             polozka->setObjectName(akce.nazev);
             polozka->setShortcut(QKeySequence(QString::fromUtf8(akce.zkratka)));
             connect(polozka, &QAction::triggered, this, [this, akce] { proved(akce); });
             addAction(polozka);
-            if (*akce.popisek) nabidka->addAction(polozka);
+            if (akce.nazev == k_restart) polozka->setText(polozky.pridej("Restart"));
+            if (!polozka->text().isEmpty()) nabidka->addAction(polozka);
         }
     }
 }
@@ -230,13 +245,14 @@ void OknoForm1::obnov() {
 // The list drops down at the moment when it appears.
 void OknoForm1::obnov_seznam_firem() {
     const bool nove_videt = form_.seznam_viditelny && firmy_->isHidden();
+    firmy_->setVisible(form_.seznam_viditelny);
+    // Filled anew under the operator's hands, a list that is down would lose his place in it.
+    if (!nove_videt) return;
     const QSignalBlocker ticho(firmy_);
     firmy_->clear();
     for (const std::string& firma : form_.seznam_firem)
         firmy_->addItem(do_qt(firma));
     firmy_->setCurrentText(do_qt(form_.vybrana_firma));
-    firmy_->setVisible(form_.seznam_viditelny);
-    if (!nove_videt) return;
     firmy_->setFocus();
     firmy_->showPopup();
 }
@@ -244,10 +260,13 @@ void OknoForm1::obnov_seznam_firem() {
 void OknoForm1::obnov_pozadi() {
     if (form_.pozadi == nactene_pozadi_) return;
     nactene_pozadi_ = form_.pozadi;
-    const QPixmap obrazek(do_qt(form_.pozadi));
-    pozadi_->setPixmap(
-        obrazek.isNull() ? obrazek
-                         : obrazek.scaled(k_pozadi, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    QPixmap obrazek(do_qt(form_.pozadi));
+    if (!obrazek.isNull()) {
+        const qreal bodu = devicePixelRatioF();
+        obrazek = obrazek.scaled(k_pozadi * bodu, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+        obrazek.setDevicePixelRatio(bodu);
+    }
+    pozadi_->setPixmap(obrazek);
 }
 
 void OknoForm1::obnov_rok() {
@@ -270,7 +289,21 @@ void OknoForm1::closeEvent(QCloseEvent* udalost) {
 
 bool OknoForm1::eventFilter(QObject* prvek, QEvent* udalost) {
     if (prvek == pozadi_ && udalost->type() == QEvent::MouseButtonDblClick) form_.Image1DblClick();
+    if (prvek == firmy_ || prvek == firmy_->view()) return klavesa_v_seznamu(*udalost);
     return QMainWindow::eventFilter(prvek, udalost);
+}
+
+// Escape in the list of companies leaves the list, not the program, whose shortcut it is otherwise.
+bool OknoForm1::klavesa_v_seznamu(QEvent& udalost) {
+    const bool stisk = udalost.type() == QEvent::KeyPress;
+    if (!stisk && udalost.type() != QEvent::ShortcutOverride) return false;
+    if (static_cast<QKeyEvent&>(udalost).key() != Qt::Key_Escape) return false;
+    udalost.accept();
+    if (!stisk) return true;
+    firmy_->hidePopup();
+    form_.opustVyberFirmy();
+    obnov_rok();
+    return true;
 }
 
 }  // namespace desktop

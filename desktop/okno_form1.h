@@ -40,17 +40,18 @@ class OknoForm1 final : public QMainWindow {
     QWidget* tlacitka_akci();
     QWidget* skupina_akci(menu::Skupina skupina);
     void obnov_seznam_firem();
+    bool klavesa_v_seznamu(QEvent& udalost);
     void obnov_pozadi();
     void obnov_rok();
 
     menu::TForm1& form_;
     shell::Session& session_;
     Vazba vazba_;
-    RokOkno* rok_;
-    QLabel* krok_;
-    QSpinBox* mesic_;
-    QComboBox* firmy_;
-    QLabel* pozadi_;
+    RokOkno* rok_ = nullptr;
+    QLabel* krok_ = nullptr;
+    QSpinBox* mesic_ = nullptr;
+    QComboBox* firmy_ = nullptr;
+    QLabel* pozadi_ = nullptr;
     std::string nactene_pozadi_;
 };
 

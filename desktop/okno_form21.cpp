@@ -104,6 +104,15 @@ void OknoForm21::vysledky(payrun::TForm21& form) {
     connect(ukazat, &QCheckBox::toggled, organizace, &QWidget::setVisible);
     svisle->addWidget(organizace);
 
+    auto* prohlizet = new QPushButton("Prohl&ížení mezd");
+    prohlizet->setObjectName("acProhlizeniMezd");
+    prohlizet->setAutoDefault(false);
+    prohlizet->setToolTip("Ctrl+P");
+    vazba().tlacitko(
+        *prohlizet, [&form] { form.acProhlizeniMezdExecute(); },
+        QKeySequence(Qt::CTRL | Qt::Key_P));
+    svisle->addWidget(prohlizet, 0, Qt::AlignLeft);
+
     vazba().viditelne(*panel, [&form] { return form.vysledky_viditelne; });
     obsah().addWidget(panel);
 }

@@ -9,12 +9,6 @@
 
 namespace desktop {
 
-namespace {
-
-constexpr const char* k_program = "Zorv";
-
-}  // namespace
-
 base::PolohaOkna poloha_okna(const QWidget& okno) {
     const QRect misto = okno.isMaximized() ? okno.normalGeometry() : okno.geometry();
     return {okno.isMaximized(), misto.top(), misto.left(), misto.width(), misto.height()};
@@ -35,13 +29,13 @@ PametOken::PametOken(const shell::Session& session) : zapnuta_(session.velmar.pa
 void PametOken::obnov(QWidget& okno) const {
     if (!zapnuta_) return;
     const auto poloha =
-        base::nacti_okno(base::slozka_uzivatele(), k_program, z_qt(okno.objectName()));
+        base::nacti_okno(base::slozka_uzivatele(), base::k_program, z_qt(okno.objectName()));
     if (poloha) umisti_okno(okno, *poloha);
 }
 
 void PametOken::uloz(const QWidget& okno) const {
     if (!zapnuta_) return;
-    base::uloz_okno(base::slozka_uzivatele(), k_program, z_qt(okno.objectName()),
+    base::uloz_okno(base::slozka_uzivatele(), base::k_program, z_qt(okno.objectName()),
                     poloha_okna(okno));
 }
 

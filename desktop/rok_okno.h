@@ -1,5 +1,5 @@
-// The year at a glance: twelve columns with the state of each month and a bar of what it cost. A
-// click on a month chooses it.
+// The year at a glance: twelve columns with a bar of what the month cost, its state, workers and
+// sums. A click or an arrow key chooses a month, a double click or Enter opens it.
 #pragma once
 
 #include <QWidget>
@@ -14,7 +14,7 @@ class RokOkno final : public QWidget {
   public:
     explicit RokOkno(QWidget* rodic = nullptr);
 
-    std::function<void(int mesic)> pri_vyberu;
+    std::function<void(int mesic)> pri_vyberu, pri_otevreni;
 
     void ukaz(const std::array<menu::PrehledMesice, 12>& rok);
     /// The month in the month box, drawn with a frame.
@@ -26,21 +26,28 @@ class RokOkno final : public QWidget {
   protected:
     void paintEvent(QPaintEvent* udalost) override;
     void mousePressEvent(QMouseEvent* udalost) override;
+    void mouseDoubleClickEvent(QMouseEvent* udalost) override;
+    void keyPressEvent(QKeyEvent* klavesa) override;
     bool event(QEvent* udalost) override;
 
   private:
     QRect sloupec(int mesic) const;
     int mesic_v(const QPoint& misto) const;
-    void kresli_mesic(QPainter& p, const menu::PrehledMesice& mesic) const;
+    QRect radek(const QRect& sloupec, int poradi) const;
+    bool v_tisicich() const;
+    QString slovy() const;
+    void kresli_mesic(QPainter& p, const menu::PrehledMesice& mesic, bool tisice) const;
     void kresli_sloupec(QPainter& p, const menu::PrehledMesice& mesic, const QRect& plocha) const;
-    void kresli_vysvetlivky(QPainter& p) const;
+    void kresli_vysvetlivky(QPainter& p, bool tisice) const;
+    void kresli_nadpisy(QPainter& p) const;
     int vyska_radku() const;
+    int sirka_nadpisu() const;
 
     std::array<menu::PrehledMesice, 12> rok_{};
     int vybrany_ = 1;
 };
 
-/// An amount of a wage year for the eye: "1 234 tis.", or "" for none.
-QString tisice(base::Castka castka);
+/// An amount for the eye, in whole crowns or thousands: "1 234 567", "1 235", or "" for none.
+QString v_jednotkach(base::Castka castka, bool v_tisicich);
 
 }  // namespace desktop

@@ -1,15 +1,27 @@
 #include "desktop/snimky.h"
 
 #include <QApplication>
+#include <QEventLoop>
+#include <QPdfView>
 #include <QPixmap>
+#include <QTimer>
 #include <QWidget>
+#include <chrono>
 #include <optional>
 
 #include "annual/stav_projektu.h"
 #include "base/chyba.h"
 #include "desktop/okna.h"
 #include "desktop/text_qt.h"
+#include "desktop/ukazky_evidence.h"
+#include "desktop/ukazky_fixnich.h"
+#include "desktop/ukazky_hrubych.h"
+#include "desktop/ukazky_karty.h"
+#include "desktop/ukazky_nahrad.h"
+#include "desktop/ukazky_oprav.h"
+#include "desktop/ukazky_registru.h"
 #include "menu/unit1_hlavni.h"
+#include "payrun/unit133_prohlizeni_mezd.h"
 #include "payrun/unit21_vypocet_vyplat.h"
 #include "payrun/unit50_blokace.h"
 #include "payrun/unit66_prohlizeni.h"
@@ -18,7 +30,10 @@
 #include "paysheet/unit2_struktura.h"
 #include "paysheet/unit3_seznam_sloupcu.h"
 #include "paysheet/unit4_sloupec.h"
+#include "report/nahled.h"
+#include "report/tabulkova.h"
 #include "store/catalogue.h"
+#include "store/query.h"
 
 namespace desktop {
 
@@ -76,7 +91,7 @@ Obrazovka oprava_sloupce(shell::Session& session) {
 struct BlokovanaHodnota {
     explicit BlokovanaHodnota(shell::Session& session) {
         const std::string tabulka = store::month_table("Blok", session.zpracovavany_mesic);
-        if (!session.data().table_exists(tabulka)) menu::zaloz_soubor_pro_blokovani(session);
+        payrun::zaloz_soubor_pro_blokovani(session);
         blok.set_connection(session.data());
         blok.set_table_name(tabulka);
         blok.open();
@@ -112,11 +127,47 @@ Obrazovka uzaverky(shell::Session& session) {
     return form;
 }
 
+/// A preview of the workers' names over several pages.
+Obrazovka nahled_sestavy(shell::Session& session) {
+    report::TabulkovaSestava sestava;
+    sestava.nazev = "Pracovníci - " + session.firma;
+    sestava.zahlavi = {session.radek_firmy};
+    sestava.sloupce = {{"Číslo", 20, report::Zarovnani::vpravo}, {"Příjmení", 50}, {"Jméno", 40}};
+    store::Query q(session.data(), "SELECT Cislo, Prijmeni, Jmeno FROM Os_karty ORDER BY Prijmeni");
+    for (int opakovani = 0; opakovani < 30; ++opakovani) {
+        for (q.open(); !q.eof(); q.next())
+            sestava.radky.push_back({q.text(0), q.text(1), q.text(2)});
+    }
+    return std::make_shared<report::TFUsrPrev>(report::sestav_tabulku(sestava));
+}
+
 Obrazovka vety_listiny(shell::Session& session) {
     return std::make_shared<payrun::TForm66>(
         session, "PROHLÍŽÍME  ZÁPORNÉ  VÝPLATY",
         "select * from " + store::month_table("Listin", session.zpracovavany_mesic) +
             " order by cislo_pracovnika,modul,sloupec,Pocitadlo");
+}
+
+/// The sheet of the month, with the amount payable of its first worker explained.
+Obrazovka prohlizeni_mezd(shell::Session& session) {
+    spoctene_vyplaty(session);
+    auto form = std::make_shared<payrun::TForm133>(session, session.zpracovavany_mesic);
+    form->FormShow();
+    form->vysvetli();
+    return form;
+}
+
+/// The same after the cards were changed behind the sheet's back.
+Obrazovka prohlizeni_zmenenych_mezd(shell::Session& session) {
+    spoctene_vyplaty(session);
+    auto form = std::make_shared<payrun::TForm133>(session, session.zpracovavany_mesic);
+    form->FormShow();
+    {
+        store::Transaction na_zkousku(session.data());
+        session.data().execute("UPDATE Os_karty SET Staly_plat = Staly_plat + 1000, tpd = 40");
+        form->vysvetli();
+    }
+    return form;
 }
 
 template <Stranka stranka>
@@ -128,8 +179,17 @@ Obrazovka nastaveni(shell::Session& session) {
     return form;
 }
 
-void uloz(QWidget& okno, const std::filesystem::path& soubor) {
+/// The preview of a report draws its pages in the background.
+void dokresli(const QWidget& okno) {
     QApplication::processEvents();
+    if (!okno.findChild<QPdfView*>()) return;
+    QEventLoop cekani;
+    QTimer::singleShot(std::chrono::milliseconds(500), &cekani, &QEventLoop::quit);
+    cekani.exec();
+}
+
+void uloz(QWidget& okno, const std::filesystem::path& soubor) {
+    dokresli(okno);
     if (!okno.grab().save(do_qt(soubor.string()))) {
         throw base::ChybaDat("Obrázek \"" + soubor.string() + "\" nelze zapsat.");
     }
@@ -147,10 +207,50 @@ const std::vector<Ukazka>& ukazky() {
         {"TForm3", seznam_sloupcu},
         {"TForm4", oprava_sloupce},
         {"TForm21", spoctene_vyplaty},
+        {"TForm133", prohlizeni_mezd},
+        {"TForm133", prohlizeni_zmenenych_mezd, "-zmena"},
+        {"TForm6", registr_fixni, "-fixni"},
+        {"TForm6", registr_deti, "-deti"},
+        {"TForm6", registr_info, "-info"},
+        {"TForm17", zadani_hrubych},
+        {"TForm17", zadani_nahrady, "-nahrady"},
+        {"TFNahrady", prehled_nahrad},
+        {"TForm123", tisk_nahrad},
+        {"TFHromadneZadani", hrube_ze_souboru},
+        {"TForm18", prohlizeni_hrubych},
+        {"TForm19", oprava_nahrady, "-nahrada"},
+        {"TForm19", oprava_hrube},
+        {"TForm20", sumarizace_hrubych},
+        {"TForm43", vykony},
+        {"TForm90", oprava_davky},
         {"TForm50", blokovane_hodnoty},
         {"TForm51", blokovana_hodnota},
         {"TForm66", vety_listiny},
+        {"TForm7", karta_s_chybami, "-dane"},
+        {"TForm7", karta_cssz, "-cssz"},
+        {"TForm7", karta_prumery, "-prumery"},
+        {"TForm7", karta_hlediska, "-hlediska"},
+        {"TForm7", karta_texty, "-texty"},
+        {"TForm7", karta_cizozemci, "-cizozemci"},
+        {"TForm7", karta_osobni},
+        {"TFVyberPracovnika", vyber_pracovnika},
+        {"TForm9", nove_dite},
+        {"TForm11", fixni_polozky},
+        {"TForm12", fixni_polozka_s_archivem},
+        {"TForm13", fixni_polozka_pracovnika},
+        {"TForm75", oprava_korun},
         {"TFStavProjektu", uzaverky},
+        {"TFUsrPrev", nahled_sestavy},
+        {"TFRpd", kalendare},
+        {"TFRpdDet", kalendar_dubna},
+        {"TForm26", pojistovny},
+        {"Tfmz003", pojistovna},
+        {"TForm15", stroje},
+        {"TForm16", stroj},
+        {"TForm74", externi_vstup},
+        {"TForm132", externi_prace},
+        {"TForm162", dochazka},
+        {"TForm163", zadani_dochazky},
     };
     return vsechny;
 }

@@ -6,6 +6,7 @@
 
 #include "shell/session.h"
 #include "store/transfer.h"
+#include "wages/hromadne_zadani.h"
 
 namespace menu {
 
@@ -19,5 +20,11 @@ std::optional<int> mesic_hrubych(std::string_view tabulka);
 std::optional<store::ImportResult> import_hrubych(shell::Session& session, int mesic,
                                                   std::string_view csv, std::string_view soubor,
                                                   bool nahradit);
+
+/// Checks the items of a CSV text as entry by hand does (see wages::precti_hromadne) and writes
+/// them all, or none when there is a fault. Guard of the month and pay sheet as above. Nothing when
+/// the month guard refused.
+std::optional<wages::HromadneZadani> import_polozek(shell::Session& session, int mesic,
+                                                    std::string_view csv, std::string_view soubor);
 
 }  // namespace menu

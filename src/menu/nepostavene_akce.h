@@ -7,15 +7,6 @@
 namespace menu {
 
 inline constexpr std::string_view k_nepostavene_akce[] = {
-    "acPracovnici",
-    "acEvidenceDochazky",
-    "acPracovniKalendar",
-    "acPojistovnyFondy",
-    "acExterniVstup",
-    "acFixniPolozky",
-    "acStroje",
-    "acHrubeZorvNahrady",
-    "acProhlizetZakladniSoubory",
     "acZuctovaniMezd",
     "acZuctovaniMechanizace",
     "acPrumeryNaNahrady",

@@ -5,7 +5,7 @@
 
 #include "base/datum.h"
 #include "base/text.h"
-#include "payrun/presnost.h"
+#include "payrun/soucty_listiny.h"
 #include "paysheet/listina.h"
 #include "store/catalogue.h"
 #include "store/query.h"
@@ -42,50 +42,31 @@ int pocet_zadanych(store::Connection& data, int mesic) {
 class SouctyListiny {
   public:
     SouctyListiny(const shell::Session& session, const Sporici& sporici)
-        : sporici_(sporici),
-          sazba_socialni_(session.nastaveni.proc_soc2),
-          sazba_zdravotni_(payrun::z_ulozeneho(session.ridici_zorv.proc_zdr_zamestnavatel)) {}
+        : sporici_(sporici), sazby_(payrun::sazby_podniku(session)) {}
 
     /// A row of a module; the worker and the column belong to a deduction.
     void pridej(std::int64_t modul, base::Castka hodnota,
                 std::pair<std::int64_t, std::int64_t> kam) {
-        switch (modul) {
-            case 2:
-                hruba_ += hodnota;
-                break;
-            case 10:
-                if (sporici_.contains(kam)) cista_ += hodnota;
-                break;
-            case 14:
-                cista_ += hodnota;
-                ++pracovniku_;
-                break;
-            case 61:
-                zaklad_socialniho_ += hodnota;
-                break;
-            case 62:
-                zdravotni_ += podil_podniku(hodnota, sazba_zdravotni_);
-                break;
-            default:
-                break;
+        soucet_.pridej(modul, hodnota, sazby_);
+        if (modul == 10 && sporici_.contains(kam)) cista_ += hodnota;
+        if (modul == 14) {
+            cista_ += hodnota;
+            ++pracovniku_;
         }
     }
 
     void zapis(PrehledMesice& prehled) const {
         prehled.pracovniku = pracovniku_;
-        prehled.hruba = hruba_;
+        prehled.hruba = soucet_.hruba;
         prehled.cista = cista_;
-        prehled.naklad = hruba_ + podil_podniku(zaklad_socialniho_, sazba_socialni_) + zdravotni_;
+        prehled.naklad = soucet_.naklad(sazby_);
     }
 
   private:
-    static base::Castka podil_podniku(base::Castka zaklad, base::Castka sazba) {
-        return base::na_koruny_podil_podniku(base::procenta(zaklad, sazba));
-    }
-
     const Sporici& sporici_;
-    base::Castka sazba_socialni_, sazba_zdravotni_;
-    base::Castka hruba_ = 0, cista_ = 0, zaklad_socialniho_ = 0, zdravotni_ = 0;
+    payrun::SazbyPodniku sazby_;
+    payrun::SoucetMezd soucet_;
+    base::Castka cista_ = 0;
     int pracovniku_ = 0;
 };
 

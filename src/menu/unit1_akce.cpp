@@ -5,6 +5,7 @@
 
 #include "annual/stav_projektu.h"
 #include "base/text.h"
+#include "menu/akce_evidence.h"
 #include "menu/nepostavene_akce.h"
 #include "menu/unit1_hlavni.h"
 #include "menu/vstup_do_mesice.h"
@@ -30,8 +31,32 @@ bool vzdy(TForm1& form) {
     return true;
 }
 
+/// Makes an action of a routine that needs only the session, which takes the month box along.
+template <bool (*akce)(shell::Session&)>
+bool se_session(TForm1& form) {
+    form.session().mesic_v_poli = form.mesic;
+    return akce(form.session());
+}
+
+/// The same for a monthly action: refused, it puts the focus on the month box.
+template <bool (*akce)(shell::Session&)>
+bool mesicni(TForm1& form) {
+    if (se_session<akce>(form)) return true;
+    form.fokus_na_mesici = true;
+    return false;
+}
+
 constexpr Provedeni k_provedeni[] = {
     {"acVypocetVyplat", [](TForm1& form) { return form.acVypocetVyplatExecute(); }},
+    {"acHrubeZorvNahrady", mesicni<acHrubeZorvNahradyExecute>},
+    {"acProhlizetZakladniSoubory", se_session<acProhlizetZakladniSouboryExecute>},
+    {"acPracovniKalendar", se_session<acPracovniKalendarExecute>},
+    {"acFixniPolozky", se_session<acFixniPolozkyExecute>},
+    {"acPojistovnyFondy", se_session<acPojistovnyFondyExecute>},
+    {"acExterniVstup", se_session<acExterniVstupExecute>},
+    {"acStroje", se_session<acStrojeExecute>},
+    {"acEvidenceDochazky", se_session<acEvidenceDochazkyExecute>},
+    {"acPracovnici", se_session<acPracovniciExecute>},
     {"acUzaverky", vzdy<&TForm1::acUzaverkyExecute>},
     {"acNastaveniVL", vzdy<&TForm1::acNastaveniVLExecute>},
     {"acNastaveniParametru", vzdy<&TForm1::acNastaveniParametruExecute>},
@@ -123,11 +148,11 @@ void TForm1::acEditaceSestavExecute() {
 void TForm1::acRestartExecute() {
     const auto spoustec = session_.slozka_programu / "RestartZorv.exe";
     if (!std::filesystem::exists(spoustec)) {
-        session_.obsluha().hlaska("Ukončete program a spusťte jej znovu.");
+        session_.obsluha().hlaska(k_spustte_znovu);
         return;
     }
+    spustit_po_zavreni = spoustec.string();
     acKonecExecute();
-    session_.obsluha().otevri_soubor(spoustec.string());
 }
 
 void TForm1::acKonecExecute() {
@@ -182,9 +207,6 @@ bool TForm1::zaloz_listinu_pro_vypocet() {
 
 void zaloz_hrube_zorv(shell::Session& session) {
     zaloz_mesicni_tabulku(session, "Hrube");
-}
-void zaloz_soubor_pro_blokovani(shell::Session& session) {
-    zaloz_mesicni_tabulku(session, "Blok");
 }
 
 }  // namespace menu

@@ -10,12 +10,16 @@
 #include "base/deniky.h"
 #include "base/obsluha.h"
 #include "menu/akce.h"
+#include "menu/otevrena_firma.h"
 #include "shell/session.h"
 
 namespace menu {
 
 /// What an action that needs a company says without one.
 inline constexpr const char* k_bez_vybrane_firmy = "Nejdříve vyberte firmu.";
+
+/// What a restart says where no program for it lies beside this one.
+inline constexpr const char* k_spustte_znovu = "Ukončete program a spusťte jej znovu.";
 
 /// Title of the message that refuses a wrong start.
 inline constexpr const char* k_nadpis_odmitnuti = "Upozornění";
@@ -28,6 +32,7 @@ class TForm1 final : public base::Obrazovka {
   public:
     explicit TForm1(shell::Session& session);
     std::string_view jmeno() const override { return "TForm1"; }
+    shell::Session& session() { return session_; }
 
     std::string titulek;  ///< title of the window
     std::string lbFirma;  ///< the company's line, or "Vyber firmu --->"; shown unless choosing
@@ -38,6 +43,8 @@ class TForm1 final : public base::Obrazovka {
     /// Label "Editace sestava zapnuta" is shown, and reports may be edited.
     bool editace_sestav = false;
     bool zavreno = false;  ///< the form was closed and the program ends
+    /// The program that the face starts once this form was closed; empty: none.
+    std::string spustit_po_zavreni;
     /// Where the window stands: set by FormCreate when remembered, kept by the face, stored by
     /// FormDestroy.
     std::optional<base::PolohaOkna> poloha_okna;
@@ -81,6 +88,9 @@ class TForm1 final : public base::Obrazovka {
 
     /// Opens the list of companies; until one is picked no company is open.
     void acZmenitFirmuExecute();
+    /// The operator leaves the list without a pick: the company open before is opened again.
+    /// Without one, or when it is not under the root any more, no company stays open.
+    void opustVyberFirmy();
     /// A company was picked in the list: remembers it in `Velmar.ini` and opens it.
     void ComboBox1Change(const std::string& firma);
     /// Asks for another data root, remembers it and lists its companies.
@@ -103,12 +113,14 @@ class TForm1 final : public base::Obrazovka {
   private:
     shell::Session& session_;
     bool akce_bezi_ = false;
+    OtevrenaFirma otevrena_firma_;
+    std::string firma_pred_vyberem_;
 
     void otevri_firmu();
+    void ukaz_seznam_firem(bool ukaz);
     void ukaz_bez_firmy();
     void zapamatuj(const char* sekce, const char* klic, const std::string& hodnota);
     std::filesystem::path sablona(const char* soubor) const;
-    std::filesystem::path velmar_ini() const;
     bool vstup_do_vypoctu();
     bool testuj_ucetnictvi_v_tomto_pocitaci();
     void prenes_vyloucene_sloupce();
@@ -116,8 +128,7 @@ class TForm1 final : public base::Obrazovka {
     bool zaloz_listinu_pro_vypocet();
 };
 
-/// Month tables, made at the first entry into their actions.
+/// The month's table of gross wages, made at the first entry into its actions.
 void zaloz_hrube_zorv(shell::Session& session);
-void zaloz_soubor_pro_blokovani(shell::Session& session);
 
 }  // namespace menu

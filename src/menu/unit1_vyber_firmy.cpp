@@ -1,6 +1,7 @@
 // TForm1: start and end of the form, the choice of a company and of the data root, the background
 // picture.
-#include "base/ini.h"
+#include <fmt/format.h>
+
 #include "base/text.h"
 #include "menu/unit1_hlavni.h"
 
@@ -8,8 +9,11 @@ namespace menu {
 
 namespace {
 
-constexpr const char* k_program = "Zorv";
 constexpr const char* k_titulek = "Velmar 282";
+constexpr const char* k_otevrena_jinde =
+    "Firma {} je právě otevřena i v jiném spuštěném programu Zorv.\r\n\r\n"
+    "Pracovat můžete: dokud jeden program zapisuje, druhý počká.\r\n"
+    "Tytéž údaje ale neopravujte v obou zároveň.";
 
 /// "/data/" gives "/data"; the root of all folders stays.
 std::string bez_koncoveho_oddelovace(std::string cesta) {
@@ -34,18 +38,18 @@ std::string odmitnuti_startu(std::string_view prvni_argument) {
 
 void TForm1::FormCreate() {
     shell::Session& s = session_;
-    s.velmar = shell::cti_velmar_ini(velmar_ini(), s.slozka_programu);
+    s.velmar = shell::cti_velmar_ini(shell::slozky_programu(s.slozka_programu));
     s.koren_dat = bez_koncoveho_oddelovace(s.velmar.root);
     s.firma = s.velmar.firma_mz;
     if (s.velmar.pamatovat_okna) {
-        poloha_okna = base::nacti_okno(base::slozka_uzivatele(), k_program, jmeno());
+        poloha_okna = base::nacti_okno(base::slozka_uzivatele(), base::k_program, jmeno());
     }
 }
 
 void TForm1::FormShow() {
     shell::Session& s = session_;
-    base::log_akce(s.velmar.logovat, base::slozka_uzivatele(), s.hodiny(), k_program, jmeno(),
-                   " FormShow");
+    base::log_akce(s.velmar.logovat, base::slozka_uzivatele(), s.hodiny(), base::k_program, jmeno(),
+                   base::k_log_otevreni);
     titulek = k_titulek;
     fokus_na_mesici = true;
     if (!std::filesystem::is_directory(shell::slozka_firmy(s.koren_dat, s.firma))) s.firma.clear();
@@ -60,15 +64,20 @@ void TForm1::FormShow() {
 
 void TForm1::FormDestroy() {
     if (session_.velmar.pamatovat_okna && poloha_okna) {
-        base::uloz_okno(base::slozka_uzivatele(), k_program, jmeno(), *poloha_okna);
+        base::uloz_okno(base::slozka_uzivatele(), base::k_program, jmeno(), *poloha_okna);
     }
 }
 
 /// Opens the session's company; one that cannot be read leaves the form without a company.
 void TForm1::otevri_firmu() {
     try {
-        zaloz_soubory();
+        const bool pripravena = zaloz_soubory();
+        if (pripravena && !otevrena_firma_.obsad(session_.cesta_dat)) {
+            session_.obsluha().skryj_hlasku();
+            session_.obsluha().hlaska(fmt::format(k_otevrena_jinde, session_.firma));
+        }
     } catch (...) {
+        otevrena_firma_.uvolni();
         session_.zavri_spojeni();
         session_.firma.clear();
         ukaz_bez_firmy();
@@ -80,19 +89,36 @@ void TForm1::acZmenitFirmuExecute() {
     shell::Session& s = session_;
     lbRoot = (s.koren_dat / "").string();
     seznam_firem.clear();
-    zmenit_viditelne = false;
+    seznam_viditelny = zmenit_viditelne = false;
     oznam_zmenu();
-    s.obsluha().pust_udalosti();
-    seznam_firem = shell::seznam_firem(s.koren_dat);
-    vybrana_firma = s.firma;
-    seznam_viditelny = true;
+    seznam_firem = shell::seznam_firem(s.koren_dat, [&s] { s.obsluha().pust_udalosti(); });
+    if (!s.firma.empty()) firma_pred_vyberem_ = s.firma;
+    vybrana_firma = firma_pred_vyberem_;
     s.firma.clear();
+    otevrena_firma_.uvolni();
+    ukaz_seznam_firem(true);
+}
+
+void TForm1::ukaz_seznam_firem(bool ukaz) {
+    seznam_viditelny = ukaz;
+    zmenit_viditelne = !ukaz;
     oznam_zmenu();
 }
 
+void TForm1::opustVyberFirmy() {
+    if (!seznam_viditelny) return;
+    ukaz_seznam_firem(false);
+    const auto slozka = shell::slozka_firmy(session_.koren_dat, firma_pred_vyberem_);
+    if (firma_pred_vyberem_.empty() || !std::filesystem::is_directory(slozka)) {
+        ukaz_bez_firmy();
+        return;
+    }
+    session_.firma = firma_pred_vyberem_;
+    otevri_firmu();
+}
+
 void TForm1::ComboBox1Change(const std::string& firma) {
-    seznam_viditelny = false;
-    zmenit_viditelne = true;
+    ukaz_seznam_firem(false);
     session_.firma = firma;
     zapamatuj("Firma", "mz", firma);
     session_.velmar.firma_mz = firma;
@@ -129,14 +155,11 @@ void TForm1::Image1DblClick() {
 /// A choice kept for the next start. That it cannot be kept is said, and the work goes on.
 void TForm1::zapamatuj(const char* sekce, const char* klic, const std::string& hodnota) {
     try {
-        base::zapis_ini_text(velmar_ini(), sekce, klic, hodnota);
+        shell::zapis_velmar_ini(shell::slozky_programu(session_.slozka_programu), sekce, klic,
+                                hodnota);
     } catch (const base::ChybaDat& chyba) {
         session_.obsluha().hlaska(chyba.what());
     }
-}
-
-std::filesystem::path TForm1::velmar_ini() const {
-    return session_.slozka_programu / "Velmar.ini";
 }
 
 }  // namespace menu

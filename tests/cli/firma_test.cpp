@@ -107,4 +107,18 @@ TEST_F(Firma, NastaveniARidiciSeCtouMeniAOdmitaji) {
     EXPECT_NE(projde({"ridici"}).find("Příplatek"), std::string::npos);
 }
 
+TEST_F(Firma, MezModuluBezSloupcuTabulkyUpozorni) {
+    zaloz_firmu("PEKARNA22");
+    const auto posun = spust({"ridici", "modul1_do", "3"});
+    EXPECT_EQ(posun.stav, 0);
+    EXPECT_EQ(posun.err,
+              "Pozor: Řídicí záznam a tabulka Ridici mají jiné sloupce. V tabulce chybí: 3 (modul "
+              "1).\n");
+    EXPECT_NE(spust({"ridici", "modul13", "0"}).err.find("V tabulce navíc: 17 (modul 13)."),
+              std::string::npos);
+    spust({"ridici", "modul13", "17"});
+    EXPECT_EQ(spust({"ridici", "modul1_do", "2"}).err, "");
+    EXPECT_EQ(spust({"ridici", "sloupec_staly_plat", "1"}).err, "");
+}
+
 }  // namespace zkouska

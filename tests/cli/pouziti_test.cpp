@@ -1,4 +1,7 @@
 // Wrong arguments, help, and where root and company are taken from.
+#include <stdlib.h>
+
+#include "base/slozky.h"
 #include "base/soubory.h"
 #include "tests/cli/prikaz.h"
 
@@ -81,6 +84,26 @@ TEST_F(Pouziti, KorenAFirmaPlatiZVelmarIni) {
                           out, err),
               4);
     EXPECT_NE(err.str().find("není složka"), std::string::npos) << err.str();
+}
+
+// As an installed program: its folder takes no writes, so everything goes to the user's home.
+TEST_F(Pouziti, InstalovanyProgramZakladaDataVDomovskeSlozce) {
+    const std::string domov = base::domovska_slozka().string();
+    setenv("HOME", slozka.cesta().c_str(), 1);
+    const std::string cesta = (slozka / "neni" / "zorvctl").string();
+    const auto stav = [&](std::vector<std::string> slova) {
+        slova.insert(slova.begin(), cesta);
+        std::istringstream in;
+        std::ostringstream out, err;
+        return cli::hlavni(slova, in, out, err);
+    };
+    EXPECT_EQ(stav({"firma", "seznam"}), 4);
+    EXPECT_EQ(stav({"--root", (slozka / "jinde").string(), "firma", "zaloz", "PEKARNA22"}), 4);
+    EXPECT_EQ(stav({"firma", "zaloz", "PEKARNA22"}), 0);
+    EXPECT_EQ(stav({"firma", "zaloz", "PEKARNA23"}), 0);
+    EXPECT_TRUE(std::filesystem::is_directory(slozka / "zorv-data" / "PEKARNA23"));
+    EXPECT_FALSE(std::filesystem::exists(slozka / "jinde"));
+    setenv("HOME", domov.c_str(), 1);
 }
 
 TEST_F(Pouziti, BezFirmySeNicNeotevre) {

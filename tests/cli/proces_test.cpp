@@ -1,8 +1,10 @@
 // The built program as its users start it: exit status and the standard streams.
 #include <cstdio>
+#include <fmt/format.h>
 #include <sys/wait.h>
 
 #include "base/soubory.h"
+#include "store/connection.h"
 #include "tests/cli/prikaz.h"
 
 namespace zkouska {
@@ -51,6 +53,31 @@ TEST(Proces, StavyAVstupProgramu) {
         EXPECT_NE(vysledek.out.find(p.v_textu), std::string::npos) << p.argumenty << '\n'
                                                                    << vysledek.out;
     }
+}
+
+TEST(Proces, ObsazenaFirmaSeOdmitneSlovyAPoUvolneniProjde) {
+    const DocasnaSlozka slozka;
+    base::zapis_soubor(slozka / "karty.csv", k_karty);
+    base::zapis_soubor(slozka / "hrube.csv", k_hrube);
+    const std::string spolecne = "--root \"" + slozka.cesta().string() + "\" --firma PEKARNA22 ";
+    ASSERT_EQ(spust_program(spolecne + "firma zaloz PEKARNA22").stav, 0);
+    for (const auto& [tabulka, soubor] :
+         {std::pair{"Os_karty", "karty.csv"}, std::pair{"Hrube01", "hrube.csv"}}) {
+        const std::string cesta = (slozka / soubor).string();
+        ASSERT_EQ(spust_program(fmt::format("{}import {} {}", spolecne, tabulka, cesta)).stav, 0);
+    }
+    store::Connection data(slozka / "PEKARNA22" / "Zorv");
+    {
+        const store::Transaction jiny_program(data);
+        const auto odmitnuto = spust_program(spolecne + "vyplaty 1 </dev/null");
+        EXPECT_EQ(odmitnuto.stav, 4);
+        EXPECT_NE(odmitnuto.out.find("právě používá jiný program"), std::string::npos)
+            << odmitnuto.out;
+        EXPECT_EQ(spust_program(spolecne + "firma stav").stav, 4) << "čeká i otevření firmy";
+        EXPECT_FALSE(data.table_exists("Listin01"));
+    }
+    EXPECT_EQ(spust_program(spolecne + "vyplaty 1 </dev/null").stav, 0);
+    EXPECT_TRUE(data.table_exists("Listin01"));
 }
 
 }  // namespace zkouska

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "desktop/obsluha_qt.h"
+#include "desktop/snimky.h"
 #include "menu/unit1_hlavni.h"
 #include "prostredi_qt.h"
 #include "support/zkusebni_firma.h"
@@ -35,6 +36,22 @@ struct FirmaVOknech {
         EXPECT_TRUE(form.zaloz_soubory());
     }
     bool je_listina() { return session.data().table_exists("Listin01"); }
+};
+
+/// The small company, its operator never waiting for an answer.
+struct TichaFirma : FirmaVOknech {
+    desktop::TichaObsluha tichy;
+    shell::Session relace{{tichy, firma.hodiny, firma.nahoda}, firma.slozka / "program"};
+    menu::TForm1 hlavni{relace};
+
+    TichaFirma() {
+        session.zavri_spojeni();
+        relace.koren_dat = session.koren_dat;
+        relace.firma = session.firma;
+        relace.velmar.pamatovat_okna = relace.velmar.logovat = false;
+        tichy.pripoj(relace);
+        EXPECT_TRUE(hlavni.zaloz_soubory());
+    }
 };
 
 }  // namespace zkouska

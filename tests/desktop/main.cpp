@@ -1,4 +1,4 @@
-// Starts the application of the tests; no display is needed.
+// Starts the application of the tests on a small monitor; no display is needed.
 #include <gtest/gtest.h>
 
 #include "desktop/vzhled.h"
@@ -13,7 +13,7 @@ desktop::Aplikace& aplikace() {
 }  // namespace zkouska
 
 int main(int pocet, char** argumenty) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" ZORV_TEST_DATA "/monitor.json");
     testing::InitGoogleTest(&pocet, argumenty);
     const desktop::Aplikace jedina(pocet, argumenty);
     zkouska::aplikace().ohlas_chybu = [](const std::string& text) {

@@ -1,5 +1,5 @@
 // What holds for every window: it opens, its inputs have names for assistive tools, and nothing is
-// cut off on a small screen.
+// cut off on a small screen; what large letters push out of it comes in sight with the focus.
 #include "desktop/okna.h"
 
 #include <QAbstractButton>
@@ -10,12 +10,14 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <gtest/gtest.h>
 
 #include "base/chyba.h"
+#include "base/soubory.h"
 #include "desktop/okno_form1.h"
-#include "desktop/poloha_okna.h"
-#include "desktop/snimky.h"
+#include "desktop/posuvny_obsah.h"
+#include "desktop/vzhled.h"
 #include "firma_v_oknech.h"
 
 namespace {
@@ -43,10 +45,46 @@ std::string popis(const QWidget* prvek) {
            desktop::z_qt(prvek->property("text").toString());
 }
 
-void zkontroluj(QWidget& okno) {
+/// Letters of another size than those of the other tests.
+struct Pismo {
+    explicit Pismo(int bodu) { desktop::nastav_vzhled(aplikace(), 0, bodu); }
+    ~Pismo() { desktop::nastav_vzhled(aplikace(), 0, k_bezne); }
+    Pismo(const Pismo&) = delete;
+    Pismo& operator=(const Pismo&) = delete;
+    static constexpr int k_bezne = 9, k_velke = 14;
+};
+
+/// The content's part of the window that is seen.
+QRect videt(const desktop::PosuvnyObsah& obsah) {
+    return {-obsah.widget()->pos(), obsah.viewport()->size()};
+}
+
+void over_ze_fokus_prijde_do_pohledu(QWidget& okno) {
+    const auto* obsah = okno.findChild<desktop::PosuvnyObsah*>();
+    ASSERT_NE(obsah, nullptr);
+    okno.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&okno));
+    for (QWidget* prvek : obsah->widget()->findChildren<QWidget*>()) {
+        if (!prvek->isVisible() || !prvek->isEnabled()) continue;
+        if (!je_vstup(prvek) && !qobject_cast<QAbstractButton*>(prvek)) continue;
+        if (prvek->focusPolicy() == Qt::NoFocus || prvek->focusProxy()) continue;
+        prvek->setFocus();
+        const QRect misto(prvek->mapTo(obsah->widget(), QPoint(0, 0)), prvek->size());
+        EXPECT_EQ(videt(*obsah) & misto,
+                  QRect(misto.topLeft(), misto.size().boundedTo(videt(*obsah).size())))
+            << popis(prvek);
+    }
+}
+
+void zkontroluj(QWidget& okno, int pismo) {
     QApplication::processEvents();
     EXPECT_LE(okno.width(), k_maly_monitor.width());
     EXPECT_LE(okno.height(), k_maly_monitor.height() - k_titulek_a_lista);
+    const auto* obsah = okno.findChild<desktop::PosuvnyObsah*>();
+    ASSERT_NE(obsah, nullptr);
+    if (pismo == Pismo::k_bezne) {
+        EXPECT_TRUE(videt(*obsah).contains(obsah->widget()->rect()));
+    }
     for (const QWidget* prvek : okno.findChildren<QWidget*>()) {
         if (!prvek->isVisible() || prvek->isWindow()) continue;
         if (je_vstup(prvek)) {
@@ -57,36 +95,52 @@ void zkontroluj(QWidget& okno) {
         if (!text || prvek->property("text").toString().isEmpty()) continue;
         EXPECT_GE(prvek->width(), prvek->minimumSizeHint().width()) << popis(prvek);
         EXPECT_GE(prvek->height(), prvek->minimumSizeHint().height()) << popis(prvek);
-        const QRect v_okne(prvek->mapTo(&okno, QPoint(0, 0)), prvek->size());
-        EXPECT_TRUE(okno.rect().contains(v_okne)) << popis(prvek);
+        const QWidget& celek = obsah->widget()->isAncestorOf(prvek) ? *obsah->widget() : okno;
+        const QRect v_celku(prvek->mapTo(&celek, QPoint(0, 0)), prvek->size());
+        EXPECT_TRUE(celek.rect().contains(v_celku)) << popis(prvek);
+    }
+    over_ze_fokus_prijde_do_pohledu(okno);
+}
+
+TEST(VsechnaOkna, KazdeMaUkazku) {
+    for (const desktop::DruhOkna& druh : desktop::vsechna_okna()) {
+        EXPECT_TRUE(std::ranges::any_of(desktop::ukazky(), [&](const desktop::Ukazka& u) {
+            return u.obrazovka == druh.obrazovka;
+        })) << druh.obrazovka;
     }
 }
 
-TEST(VsechnaOkna, OtevrouSeMajiPristupneNazvyANicNeniUriznute) {
-    FirmaVOknech f;
-    for (const desktop::DruhOkna& druh : desktop::vsechna_okna()) {
-        SCOPED_TRACE(druh.obrazovka);
-        const desktop::Ukazka* ukazka = nullptr;
-        for (const auto& jedna : desktop::ukazky()) {
-            if (jedna.obrazovka == druh.obrazovka) ukazka = &jedna;
-        }
-        ASSERT_NE(ukazka, nullptr) << "okno nemá ukázku";
-        const auto obrazovka = ukazka->priprav(f.session);
-        const auto okno = desktop::vyrob_okno(*obrazovka, f.session, nullptr);
+class OknaPriPismu : public testing::TestWithParam<int> {
+  protected:
+    Pismo pismo{GetParam()};
+};
+
+TEST_P(OknaPriPismu, OtevrouSeMajiPristupneNazvyANicNeniUriznute) {
+    TichaFirma f;
+    const auto vypocet = std::ranges::find(desktop::ukazky(), std::string_view("TForm21"),
+                                           &desktop::Ukazka::obrazovka);
+    vypocet->priprav(f.relace);  // some screens show the month's pay sheet
+    for (const desktop::Ukazka& ukazka : desktop::ukazky()) {
+        SCOPED_TRACE(std::string(ukazka.obrazovka) + ukazka.dodatek);
+        std::shared_ptr<base::Obrazovka> obrazovka;
+        EXPECT_NO_THROW(obrazovka = ukazka.priprav(f.relace));
+        if (!obrazovka) continue;
+        const auto okno = desktop::vyrob_okno(*obrazovka, f.relace, nullptr);
         ASSERT_NE(okno, nullptr);
         okno->show();
-        zkontroluj(*okno);
+        zkontroluj(*okno, GetParam());
         EXPECT_FALSE(okno->windowTitle().isEmpty());
     }
 }
 
-TEST(VsechnaOkna, HlavniOknoSeVejdeNaMalyMonitor) {
+TEST_P(OknaPriPismu, HlavniOknoSeVejdeNaMalyMonitor) {
     FirmaVOknech f;
     desktop::OknoForm1 okno(f.form, f.session);
     okno.otevri();
-    okno.resize(k_maly_monitor.width(), k_maly_monitor.height() - k_titulek_a_lista);
-    zkontroluj(okno);
+    zkontroluj(okno, GetParam());
 }
+
+INSTANTIATE_TEST_SUITE_P(Bodu, OknaPriPismu, testing::Values(Pismo::k_bezne, Pismo::k_velke));
 
 TEST(Obsluha, OtazkaMaPredvolenoNe) {
     aplikace();
@@ -121,36 +175,98 @@ TEST(Obsluha, OznameniNecekaAZmiziKlepnutimNeboCasem) {
     }
 }
 
+/// The user's own folder of one test.
+struct SlozkaUzivatele {
+    DocasnaSlozka slozka;
+    SlozkaUzivatele() {
+        qputenv("XDG_DATA_HOME", QByteArray::fromStdString(slozka.cesta().string()));
+    }
+    ~SlozkaUzivatele() {
+        puvodni_.isNull() ? qunsetenv("XDG_DATA_HOME") : qputenv("XDG_DATA_HOME", puvodni_);
+    }
+    SlozkaUzivatele(const SlozkaUzivatele&) = delete;
+    SlozkaUzivatele& operator=(const SlozkaUzivatele&) = delete;
+
+  private:
+    QByteArray puvodni_ = qgetenv("XDG_DATA_HOME");
+};
+
 TEST(PametOken, OknoSeOtevreKdeBylo) {
-    const DocasnaSlozka slozka;
-    const QByteArray puvodni = qgetenv("XDG_DATA_HOME");
-    qputenv("XDG_DATA_HOME", QByteArray::fromStdString(slozka.cesta().string()));
+    const SlozkaUzivatele uzivatel;
     FirmaVOknech f;
-    QWidget okno;
-    okno.setObjectName("TForm99");
-    okno.setGeometry(40, 50, 300, 200);
+    const QRect misto(40, 50, 700, 480);
     for (const bool pamatovat : {false, true}) {
         f.session.velmar.pamatovat_okna = pamatovat;
-        const desktop::PametOken pamet(f.session);
-        pamet.uloz(okno);
-        QWidget dalsi;
-        dalsi.setObjectName("TForm99");
-        dalsi.setGeometry(1, 2, 110, 120);
-        pamet.obnov(dalsi);
-        EXPECT_EQ(dalsi.geometry() == okno.geometry(), pamatovat);
+        const auto otevri = [&](std::function<void(QWidget&)> prace) {
+            v_okne([prace](QWidget& okno) {
+                prace(okno);
+                QTest::keyClick(&okno, Qt::Key_Escape);
+            });
+            f.form.acUzaverkyExecute();
+        };
+        otevri([&](QWidget& okno) { okno.setGeometry(misto); });
+        otevri([&](QWidget& okno) { EXPECT_EQ(okno.geometry() == misto, pamatovat); });
     }
-    puvodni.isNull() ? qunsetenv("XDG_DATA_HOME") : qputenv("XDG_DATA_HOME", puvodni);
 }
 
-TEST(Chyby, ChybaZObsluhyUdalostiSeOhlasiAProgramBeziDal) {
-    auto puvodni = aplikace().ohlas_chybu;
-    std::string hlaseni;
-    aplikace().ohlas_chybu = [&](const std::string& text) { hlaseni = text; };
-    QTimer::singleShot(0, &aplikace(), [] { throw base::ChybaDat("Tabulka chybí."); });
-    QApplication::processEvents();
-    EXPECT_EQ(hlaseni, "V programu nastala tato chyba:\r\n\r\nTabulka chybí.");
+TEST(Log, OtevreneOknoMaRadekVDenikuKdyzSeLoguje) {
+    const SlozkaUzivatele uzivatel;
+    FirmaVOknech f;
+    const auto denik = uzivatel.slozka / "Velmar/Logy/2022/Zorv_TFStavProjektu_2022.log";
+    for (const bool logovat : {false, true}) {
+        f.session.velmar.logovat = logovat;
+        v_okne([](QWidget& okno) { QTest::keyClick(&okno, Qt::Key_Escape); });
+        f.form.acUzaverkyExecute();
+        EXPECT_EQ(std::filesystem::exists(denik), logovat);
+    }
+    EXPECT_EQ(base::precti_soubor(denik, 1000), "0115080000 FormShow\n");
+}
+
+/// Takes over what the application reports; puts the former ways back.
+struct Hlaseni {
+    std::vector<std::string> texty;
+    std::vector<base::ZaznamChyby> zaznamy;
+
+    Hlaseni() {
+        aplikace().ohlas_chybu = [this](const std::string& text) { texty.push_back(text); };
+        aplikace().zapis_chybu = [this](const base::ZaznamChyby& z) { zaznamy.push_back(z); };
+    }
+    ~Hlaseni() {
+        aplikace().ohlas_chybu = puvodni_;
+        aplikace().zapis_chybu = nullptr;
+    }
+    Hlaseni(const Hlaseni&) = delete;
+    Hlaseni& operator=(const Hlaseni&) = delete;
+
+  private:
+    std::function<void(const std::string&)> puvodni_ = aplikace().ohlas_chybu;
+};
+
+TEST(Chyby, ChybaZUdalostiSeOhlasiZapiseAProgramBeziDal) {
+    const Hlaseni hlaseni;
+    QDialog okno;
+    okno.setObjectName("TForm99");
+    auto* ramec = new QWidget(&okno);
+    auto* tlacitko = new QPushButton(ramec);
+    tlacitko->setObjectName("btOK");
+    QObject::connect(tlacitko, &QPushButton::clicked, tlacitko,
+                     [] { throw base::ChybaDat("Tabulka chybí."); });
+    okno.show();
+    QTest::mouseClick(tlacitko, Qt::LeftButton);
+    EXPECT_EQ(hlaseni.texty,
+              std::vector<std::string>{"V programu nastala tato chyba:\r\n\r\nTabulka chybí."});
+    ASSERT_EQ(hlaseni.zaznamy.size(), 1U);
+    EXPECT_EQ(hlaseni.zaznamy[0].trida, "base::ChybaDat");
+    EXPECT_EQ(hlaseni.zaznamy[0].text, "Tabulka chybí.");
+    EXPECT_EQ(hlaseni.zaznamy[0].vlastnici, "btOK->TForm99");
     EXPECT_FALSE(aplikace().ukoncena());
-    aplikace().ohlas_chybu = puvodni;
+}
+
+TEST(Chyby, ObsazenaDatabazeNeniChybaProgramu) {
+    const Hlaseni hlaseni;
+    aplikace().proved([] { throw store::StoreBusy("Počkejte."); });
+    EXPECT_EQ(hlaseni.texty, std::vector<std::string>{"Počkejte."});
+    EXPECT_TRUE(hlaseni.zaznamy.empty());
 }
 
 }  // namespace

@@ -1,16 +1,20 @@
 // The main window: its actions, the month, the choice of a company.
 #include "desktop/okno_form1.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QComboBox>
 #include <QLabel>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QSpinBox>
 #include <gtest/gtest.h>
 
+#include "base/soubory.h"
 #include "desktop/rok_okno.h"
 #include "firma_v_oknech.h"
 #include "menu/akce.h"
+#include "shell/nova_firma.h"
 
 namespace {
 
@@ -51,9 +55,9 @@ TEST(HlavniOkno, VypocetZTlacitkaZmeniPrehledRoku) {
 TEST(HlavniOkno, KlepnutiNaMesicHoVybereProAkce) {
     HlavniOkno h;
     auto& rok = prvek<QWidget>(h.okno, "rok");
-    QTest::mouseClick(&rok, Qt::LeftButton, {}, {rok.width() * 7 / 24, rok.height() / 2});
-    EXPECT_EQ(prvek<QSpinBox>(h.okno, "mesic").value(), 4);
-    EXPECT_EQ(h.form.mesic, 4);
+    QTest::mouseClick(&rok, Qt::LeftButton, {}, {rok.width() - 20, rok.height() / 2});
+    EXPECT_EQ(prvek<QSpinBox>(h.okno, "mesic").value(), 12);
+    EXPECT_EQ(h.form.mesic, 12);
 }
 
 TEST(HlavniOkno, BehemVyberuFirmySeAkceOdmitneAVybranaFirmaSeOtevre) {
@@ -79,6 +83,73 @@ TEST(HlavniOkno, BehemVyberuFirmySeAkceOdmitneAVybranaFirmaSeOtevre) {
     EXPECT_TRUE(prvek<QLabel>(h.okno, "lbFirma").text().startsWith("FIRMA22"));
 }
 
+/// The main window with two more companies, its list of companies open.
+struct VyberFirmy : HlavniOkno {
+    QComboBox& firmy = prvek<QComboBox>(okno, "ComboBox1");
+
+    VyberFirmy() {
+        for (const char* nazev : {"GAMA22", "ZETA22"})
+            EXPECT_EQ(shell::zaloz_slozku_firmy(session.koren_dat, nazev, {nazev, "1"}), "");
+        std::filesystem::create_directories(session.slozka_programu);
+        otevri_seznam();
+    }
+    void otevri_seznam() {
+        QTest::keyClick(&okno, Qt::Key_M, Qt::AltModifier);
+        ASSERT_TRUE(QTest::qWaitFor([this] { return firmy.view()->isVisible(); }));
+    }
+};
+
+TEST(VyberFirmy, SipkyChodiEnterVybere) {
+    VyberFirmy v;
+    QStringList firmy;
+    for (int i = 0; i < v.firmy.count(); ++i)
+        firmy += v.firmy.itemText(i);
+    EXPECT_EQ(firmy, (QStringList{"FIRMA22", "GAMA22", "ZETA22"}));
+    QTest::keyClick(v.firmy.view(), Qt::Key_Down);
+    EXPECT_EQ(v.session.firma, "") << "šipka ještě nevybírá";
+    v_okne([](QWidget& struktura) { zkratka(struktura, Qt::Key_Escape); });
+    QTest::keyClick(v.firmy.view(), Qt::Key_Return);
+    EXPECT_EQ(v.session.firma, "GAMA22");
+    EXPECT_FALSE(v.firmy.isVisible());
+}
+
+TEST(VyberFirmy, EscapeVratiFirmuAProgramBezi) {
+    VyberFirmy v;
+    for (const bool zavreny_seznam : {false, true}) {
+        QTest::keyClick(v.firmy.view(), Qt::Key_Down);
+        if (zavreny_seznam) v.firmy.hidePopup();
+        QWidget& kam = zavreny_seznam ? static_cast<QWidget&>(v.firmy) : *v.firmy.view();
+        QTest::keyClick(&kam, Qt::Key_Escape);
+        EXPECT_EQ(v.session.firma, "FIRMA22");
+        EXPECT_FALSE(v.form.zavreno);
+        EXPECT_TRUE(v.krok().startsWith("Leden")) << "přehled roku je zpět";
+        if (!zavreny_seznam) v.otevri_seznam();
+    }
+}
+
+TEST(HlavniOkno, NabidkySeOtevirajiPismenemAKazdeJeJine) {
+    HlavniOkno h;
+    QStringList pismena{"Alt+M", "Alt+S"};
+    for (const QAction* nabidka : h.okno.menuBar()->actions()) {
+        const QString pismeno = QKeySequence::mnemonic(nabidka->text()).toString();
+        EXPECT_NE(pismeno, "") << nabidka->text().toStdString();
+        EXPECT_FALSE(pismena.contains(pismeno)) << nabidka->text().toStdString();
+        pismena += pismeno;
+    }
+}
+
+TEST(HlavniOkno, RestartJeVNabidceAZavreProgram) {
+    HlavniOkno h;
+    auto& restart = prvek<QAction>(h.okno, "acRestart");
+    EXPECT_EQ(restart.text().remove('&'), "Restart");
+    const auto spoustec = h.session.slozka_programu / "RestartZorv.exe";
+    std::filesystem::create_directories(spoustec.parent_path());
+    base::zapis_soubor(spoustec, "x");
+    restart.trigger();
+    EXPECT_FALSE(h.okno.isVisible());
+    EXPECT_EQ(h.form.spustit_po_zavreni, spoustec.string());
+}
+
 TEST(HlavniOkno, EscapeKonci) {
     HlavniOkno h;
     QTest::keyClick(&h.okno, Qt::Key_Escape);
@@ -86,11 +157,19 @@ TEST(HlavniOkno, EscapeKonci) {
     EXPECT_FALSE(h.okno.isVisible());
 }
 
-TEST(RokOkno, TisiceKorun) {
-    EXPECT_EQ(desktop::tisice(0), "");
-    EXPECT_EQ(desktop::tisice(499), "0 tis.");
-    EXPECT_EQ(desktop::tisice(120400), "120 tis.");
-    EXPECT_EQ(desktop::tisice(1234567), "1\u00a0235 tis.");
+TEST(RokOkno, CastkyVKorunachAVTisicich) {
+    const struct {
+        base::Castka castka;
+        const char *koruny, *tisice;
+    } pripady[] = {{0, "", ""},
+                   {499, "499", "0"},
+                   {120400, "120\u00a0400", "120"},
+                   {-120400, "-120\u00a0400", "-120"},
+                   {1234567, "1\u00a0234\u00a0567", "1\u00a0235"}};
+    for (const auto& p : pripady) {
+        EXPECT_EQ(desktop::v_jednotkach(p.castka, false), p.koruny);
+        EXPECT_EQ(desktop::v_jednotkach(p.castka, true), p.tisice);
+    }
 }
 
 }  // namespace

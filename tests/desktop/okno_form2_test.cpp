@@ -88,7 +88,7 @@ TEST(OknoStruktury, ChybaSeUkazePoOpusteniPoleANelzeUlozit) {
         EXPECT_TRUE(chyby.isVisible());
         ASSERT_EQ(chyby.count(), 2);
         EXPECT_EQ(chyby.item(0)->text(), "Nenavazuje modul 2.");
-        QTest::keyClick(&okno, Qt::Key_F2);
+        zkratka(okno, Qt::Key_F2);
         EXPECT_TRUE(okno.isVisible()) << "uložit nejde ani zkratkou";
         QTest::keyClick(&okno, Qt::Key_Escape);
     });

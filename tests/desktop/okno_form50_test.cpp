@@ -66,6 +66,44 @@ TEST(OknoBlokace, NapsanaHodnotaJeVTabulceAOznacenaVSeznamu) {
     EXPECT_EQ(f.vypis(), "2|1000||-50\n1|||7\n3||-1234567|\n");
 }
 
+TEST(OknoBlokace, ZadanaHodnotaZmeniVysledekVypoctu) {
+    FirmaVOknech f;
+    const auto spocti = [](QWidget& okno) {
+        zkratka(okno, Qt::Key_F2);
+        QTest::keyClick(&okno, Qt::Key_Escape);
+    };
+    const auto dan_a_vyplata = [&] {
+        f.session.zavri_spojeni();
+        return f.firma.vypis(
+            "SELECT Hodnota FROM Listin01 WHERE Cislo_pracovnika = 2 AND Modul IN (9, "
+            "14)");
+    };
+    v_okne(spocti);
+    EXPECT_TRUE(f.form.acVypocetVyplatExecute());
+    EXPECT_EQ(dan_a_vyplata(), "6000\n29600\n");
+
+    payrun::zaloz_soubor_pro_blokovani(f.session);
+    payrun::TForm50 seznam(f.session);
+    seznam.FormShow();
+    v_okne([](QWidget& okno) {
+        v_okne([](QWidget& veta) {
+            napis(veta, "Cislo_pracovnika", "2");
+            napis(veta, "dan_abs", "1000");
+            zkratka(veta, Qt::Key_F2);
+        });
+        zkratka(okno, Qt::Key_Insert);
+        QTest::keyClick(&okno, Qt::Key_Escape);
+    });
+    f.obsluha.ukaz_modalne(seznam);
+
+    v_okne([&](QWidget& otazka) {
+        v_okne(spocti);
+        QTest::keyClick(&otazka, Qt::Key_A, Qt::AltModifier);
+    });
+    EXPECT_TRUE(f.form.acVypocetVyplatExecute());
+    EXPECT_EQ(dan_a_vyplata(), "1000\n34600\n");
+}
+
 TEST(OknoBlokace, KurzorVybiraOpravovanyRadekAOdchodNicNezmeni) {
     Blokace f;
     f.ukaz([](QWidget& okno) {

@@ -21,6 +21,7 @@ struct Hlavni {
     std::vector<std::string> ukazano;
 
     Hlavni() {
+        firma.vloz("Zdr_poj", "Cislo,Nazev\n1,Pojišťovna\n");  // an empty list would ask
         firma.obsluha.pri_obrazovce = [this](base::Obrazovka& obrazovka) {
             ukazano.emplace_back(obrazovka.jmeno());
             EXPECT_FALSE(form.proved_akci("acZmenitFirmu")) << "akce za otevřenou obrazovkou";
@@ -83,10 +84,12 @@ TEST(AkceHlavniNabidky, KazdaOtevreSvouObrazovkuADruhaAkceZaNiNejde) {
     Hlavni h;
     h.firma.session.zpracovavany_mesic = 1;
     menu::zaloz_hrube_zorv(h.firma.session);
-    const std::pair<const char*, const char*> pripady[] = {{"acVypocetVyplat", "TForm21"},
-                                                           {"acUzaverky", "TFStavProjektu"},
-                                                           {"acNastaveniVL", "TForm3"},
-                                                           {"acNastaveniParametru", "TForm14"}};
+    const std::pair<const char*, const char*> pripady[] = {
+        {"acVypocetVyplat", "TForm21"},     {"acUzaverky", "TFStavProjektu"},
+        {"acNastaveniVL", "TForm3"},        {"acPracovniKalendar", "TFRpd"},
+        {"acPojistovnyFondy", "TForm26"},   {"acStroje", "TForm15"},
+        {"acExterniVstup", "TForm74"},      {"acEvidenceDochazky", "TForm162"},
+        {"acNastaveniParametru", "TForm14"}};
     for (const auto& [akce, obrazovka] : pripady) {
         h.ukazano.clear();
         EXPECT_TRUE(h.form.proved_akci(akce));
@@ -133,18 +136,19 @@ TEST(MesicniAkce, OdmitnutyImportHrubychNechaMesicNaSvem) {
     EXPECT_EQ(firma.session.zpracovavany_mesic, 5);
 }
 
-TEST(Restart, SpoustecSeOtevreJenKdyzJe) {
+TEST(Restart, ZavreFormularASpustiJenKdyzJeSpoustec) {
     Hlavni h;
     EXPECT_TRUE(h.form.proved_akci("acRestart"));
     EXPECT_EQ(h.hlasky(), std::vector<std::string>{"Ukončete program a spusťte jej znovu."});
     EXPECT_FALSE(h.form.zavreno);
+    EXPECT_EQ(h.form.spustit_po_zavreni, "");
 
     const auto spoustec = h.firma.session.slozka_programu / "RestartZorv.exe";
     std::filesystem::create_directories(spoustec.parent_path());
     base::zapis_soubor(spoustec, "x");
     EXPECT_TRUE(h.form.proved_akci("acRestart"));
     EXPECT_TRUE(h.form.zavreno);
-    EXPECT_EQ(h.firma.obsluha.otevrene_soubory, std::vector<std::string>{spoustec.string()});
+    EXPECT_EQ(h.form.spustit_po_zavreni, spoustec.string());
     EXPECT_TRUE(h.hlasky().empty());
 }
 

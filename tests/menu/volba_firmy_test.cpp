@@ -135,6 +135,89 @@ TEST(ZmenaFirmy, SeznamCekaNaVyberAFirmaMezitimNeni) {
     EXPECT_EQ(base::cti_ini_text(d.ini(), "Firma", "mz", ""), "BETA21");
 }
 
+TEST(ZmenaFirmy, VeSlozceBezZapisuSiFirmuPamatujeUzivatel) {
+    DvaRoky d;
+    setenv("XDG_CONFIG_HOME", (d.slozka / "konfigurace").c_str(), 1);
+    d.session.slozka_programu = d.slozka / "neni";
+    d.spust();
+    EXPECT_EQ(d.form.lbFirma, "Vyber firmu --->");
+    d.session.koren_dat = d.koren;
+    d.form.ComboBox1Change("BETA21");
+    menu::TForm1 podruhe(d.session);
+    podruhe.FormCreate();
+    EXPECT_EQ(d.session.firma, "BETA21");
+    EXPECT_TRUE(fs::exists(d.slozka / "konfigurace/zorv/Velmar.ini"));
+    unsetenv("XDG_CONFIG_HOME");
+}
+
+TEST(ZmenaFirmy, UdalostiBeziMeziSlozkamiKorene) {
+    DvaRoky d;
+    d.spust();
+    int beh = 0;
+    d.obsluha.pri_udalostech = [&] { ++beh; };
+    d.form.acZmenitFirmuExecute();
+    EXPECT_EQ(beh, 3) << "po složkách ALFA22, BETA21 a prazdna22";
+}
+
+TEST(ZmenaFirmy, OdchodZeSeznamuVratiFirmuKteraBylaOtevrena) {
+    DvaRoky d;
+    d.spust();
+    d.form.acZmenitFirmuExecute();
+    d.form.acZmenitFirmuExecute();
+    EXPECT_EQ(d.form.vybrana_firma, "ALFA22") << "i když se seznam otevírá podruhé";
+    d.form.opustVyberFirmy();
+    EXPECT_FALSE(d.form.seznam_viditelny);
+    EXPECT_TRUE(d.form.zmenit_viditelne);
+    EXPECT_EQ(d.session.firma, "ALFA22");
+    EXPECT_TRUE(d.session.data().table_exists("Os_karty"));
+
+    d.form.acZmenitFirmuExecute();
+    d.session.koren_dat = d.slozka / "jinde";
+    d.form.opustVyberFirmy();
+    EXPECT_EQ(d.session.firma, "");
+    EXPECT_EQ(d.form.lbFirma, "Vyber firmu --->");
+}
+
+TEST(DruheSpusteni, TataFirmaSeOhlasiAPracujeDal) {
+    DvaRoky d;
+    d.spust();
+    shell::Session druha({d.obsluha, d.hodiny, d.nahoda}, d.program);
+    menu::TForm1 podruhe(druha);
+    podruhe.FormCreate();
+    podruhe.FormShow();
+    ASSERT_EQ(d.obsluha.hlasky.size(), 1U);
+    EXPECT_NE(d.obsluha.hlasky[0].find("Firma ALFA22 je právě otevřena i v jiném"),
+              std::string::npos);
+    EXPECT_EQ(druha.firma, "ALFA22") << "oznámení nic nezakazuje";
+    podruhe.ComboBox1Change("BETA21");
+    d.form.acZmenitFirmuExecute();
+    d.obsluha.hlasky.clear();
+    podruhe.ComboBox1Change("ALFA22");
+    EXPECT_TRUE(d.obsluha.hlasky.empty()) << "kdo firmu opustil, nepřekáží";
+}
+
+// While another program writes, opening and every change are refused in words; then they succeed.
+TEST(DruheSpusteni, KdyzJinyProgramZapisujeKrokSeOdmitneANicNezmeni) {
+    DvaRoky d;
+    d.spust();
+    const auto zapis = [](shell::Session& s) { shell::uloz_hodnotu_firmy(s, "pozadi", "x.jpg"); };
+    store::Connection jiny(d.session.cesta_ucet);
+    {
+        store::Transaction drzi(jiny);
+        try {
+            zapis(d.session);
+            ADD_FAILURE() << "zapsalo se přes cizí zámek";
+        } catch (const store::StoreBusy& obsazeno) {
+            const std::string text = obsazeno.what();
+            EXPECT_NE(text.find("právě používá jiný program. Nic se nezměnilo"), std::string::npos);
+            EXPECT_EQ(text.find("locked"), std::string::npos);
+        }
+        EXPECT_EQ(shell::hodnota_firmy(d.session, "pozadi", "-"), "-");
+    }
+    zapis(d.session);
+    EXPECT_EQ(shell::hodnota_firmy(d.session, "pozadi", "-"), "x.jpg");
+}
+
 TEST(ZmenaFirmy, VadnaFirmaNechaFormularBezFirmy) {
     DvaRoky d;
     d.spust();
