@@ -96,6 +96,7 @@ void Okno::zalom_tlacitka() {
     while (tlacitka_->minimumSize().width() > misto)
         horni->addItem(tlacitka_->takeAt(k_prvni));
     rozlozeni().insertLayout(k_prvni, horni);
+    rozlozeni().itemAt(0)->widget()->updateGeometry();  // the content has a row less
 }
 
 }  // namespace desktop

@@ -41,6 +41,8 @@ OknoForm18::OknoForm18(wages::TForm18& form, const shell::Session&, QWidget* rod
     obsah().addWidget(hlaska);
     vypln_tabulku();
     obsah().addWidget(tabulka_, 1);
+    // Enter in the last field of the filter goes to the rows.
+    setTabOrder(findChild<QLineEdit*>("text"), tabulka_);
     auto* soucty = udaj(vazba(), "lbSoucty", form.lbSoucty);
     jako_dulezity(*soucty);
     obsah().addWidget(soucty);
@@ -80,15 +82,13 @@ QWidget* OknoForm18::filtry() {
            filtr("sloupec", "sloupec", f.sloupec, 16, "čísla jako 1,3,5:9 nebo část názvu"));
     pridej("Středis&ko:",
            filtr("stredisko", "středisko", f.stredisko, 8, "čísla; 0 hledá bez střediska"));
-    auto* posledni = pridej("Te&xt:", filtr("text", "text", f.text, 18, "část textu položky"));
+    pridej("Te&xt:", filtr("text", "text", f.text, 18, "část textu položky"));
     auto* vse = new QPushButton("&Vše");
     vse->setObjectName("acVse");
     vse->setAutoDefault(false);
     vazba().tlacitko(*vse, [this] { form_.acVse(); });
     vedle_sebe->addWidget(vse);
     vedle_sebe->addStretch(1);
-    setTabOrder(posledni, tabulka_);
-    setTabOrder(tabulka_, vse);
     return panel;
 }
 

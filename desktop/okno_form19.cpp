@@ -18,14 +18,15 @@ namespace {
 using wages::TForm19;
 
 constexpr int k_radku_chyb = 5;
-constexpr QSize k_nejmensi{560, 380};
+constexpr QSize k_nejmensi{520, 320};
+constexpr QSize k_s_nahradou{760, 560};
 
 }  // namespace
 
 OknoForm19::OknoForm19(TForm19& form, const shell::Session&, QWidget* rodic)
     : Okno(form, rodic), form_(form) {
     setWindowTitle(do_qt(form.nadpis));
-    resize(k_nejmensi);
+    resize(form.stranka == TForm19::Stranka::nahrady ? k_s_nahradou : k_nejmensi);
     auto* pracovnik = udaj(vazba(), "lbPracovnik", form.lbPracovnik);
     jako_nadpis(*pracovnik);
     obsah().addWidget(pracovnik);
@@ -49,7 +50,7 @@ QLineEdit* OknoForm19::pole(QGridLayout& mrizka, const std::string& jmeno, const
                             Vazba::Metoda po_opusteni) {
     auto* nove = ciselne_pole(jmeno, nazev, znaku);
     vazba().pole(*nove, hodnota, std::move(filtr), std::move(po_opusteni));
-    auto* popisek = new QLabel(do_qt(nazev));
+    auto* popisek = new QLabel(mnemoniky_.pridej(do_qt(nazev)));
     popisek->setTextFormat(Qt::PlainText);
     popisek->setBuddy(nove);
     const int radek = mrizka.rowCount();

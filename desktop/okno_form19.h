@@ -1,6 +1,7 @@
 // The window of TForm19: whose row it is, and the inputs that its page has.
 #pragma once
 
+#include "desktop/mnemonika.h"
 #include "desktop/okno.h"
 #include "wages/unit19_oprava.h"
 
@@ -15,6 +16,7 @@ class OknoForm19 final : public Okno {
 
   private:
     wages::TForm19& form_;
+    Mnemoniky mnemoniky_{"duz"};  ///< letters of the buttons are taken
 
     QWidget* stranka();
     QWidget* stranka_ostatni();

@@ -23,8 +23,10 @@ OknoForm90::OknoForm90(wages::TForm90& form, const shell::Session&, QWidget* rod
     setWindowTitle(do_qt(form.nadpis));
     auto* mrizka = new QGridLayout;
     int sloupec = 0;
-    for (const char* nadpis : {"Pásmo", "Dnů", "Kč na den", "Kč"})
-        mrizka->addWidget(new QLabel(nadpis), 0, sloupec++);
+    for (const char* nadpis : {"Pásmo", "Dnů", "Kč na den", "Kč"}) {
+        const Qt::Alignment vpravo = sloupec > 0 ? Qt::AlignRight : Qt::AlignLeft;
+        mrizka->addWidget(new QLabel(nadpis), 0, sloupec++, vpravo);
+    }
     for (std::size_t i = 0; i < form.pasma.size(); ++i) {
         wages::TForm90::Pasmo& p = form.pasma[i];
         const int radek = static_cast<int>(i) + 1;
@@ -35,7 +37,8 @@ OknoForm90::OknoForm90(wages::TForm90& form, const shell::Session&, QWidget* rod
         kc->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         kc->setMinimumWidth(kc->fontMetrics().horizontalAdvance("000 000 000,00"));
         mrizka->addWidget(udaj(vazba(), fmt::format("popisek{}", radek), p.popisek), radek, 0);
-        mrizka->addWidget(udaj(vazba(), fmt::format("dnu{}", radek), p.dnu), radek, 1);
+        mrizka->addWidget(udaj(vazba(), fmt::format("dnu{}", radek), p.dnu), radek, 1,
+                          Qt::AlignRight | Qt::AlignVCenter);
         mrizka->addWidget(pole, radek, 2);
         mrizka->addWidget(kc, radek, 3);
     }

@@ -10,6 +10,8 @@ namespace desktop {
 
 namespace {
 
+constexpr int k_sloupec_dokladu = 4;
+
 const std::vector<SloupecMrizky>& sloupce() {
     static const std::vector<SloupecMrizky> vsechny{{"Cislo_pracovnika", "prac."},
                                                     {"Mesic", "měsíc"},
@@ -41,7 +43,9 @@ OknoNahrady::OknoNahrady(wages::TFNahrady& form, const shell::Session&, QWidget*
     setWindowTitle(do_qt(form.nadpis));
     setSizeGripEnabled(true);
     resize(1320, 520);
-    obsah().addWidget(new MrizkaSeznamu(vazba(), form, sloupce(), "náhrady", {}), 1);
+    auto* mrizka = new MrizkaSeznamu(vazba(), form, sloupce(), "náhrady", [] {});
+    mrizka->roztahni(k_sloupec_dokladu);
+    obsah().addWidget(mrizka, 1);
     tlacitko("&Sestava...", "acSestava", [&form] { form.acSestavaExecute(); });
     vazba().povolene(tlacitko("&Tisk", "acTisk", [] {}), [&form] { return form.tisk_povoleny; });
     tlacitko("&Zpět", "acZpet", [&form] { form.acZpetExecute(); });

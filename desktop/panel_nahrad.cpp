@@ -20,7 +20,7 @@ using wages::PoleNahrad;
 using wages::StrankaNahrad;
 
 constexpr int k_znaku_castky = 10, k_znaku_data = 11, k_znaku_casu = 7, k_znaku_dokladu = 10;
-constexpr int k_znaku_dnu = 3, k_znaku_vysvetleni = 48;
+constexpr int k_znaku_dnu = 3, k_znaku_vysvetleni = 54;
 constexpr int k_prvni_radek_fondu = 2;
 
 void s_popiskem(QGridLayout& mrizka, int radek, int sloupec, const char* nazev, QLineEdit* pole) {

@@ -56,8 +56,10 @@ QSize PosuvnyObsah::na_obrazovku(QSize velikost) const {
     const QSize misto = nejvetsi_okno(*window()) - okoli_();
     // A bar takes its room from the other direction.
     const QSize chce = velikost;
-    if (chce.height() > misto.height()) velikost += QSize(verticalScrollBar()->sizeHint().width(), 0);
-    if (chce.width() > misto.width()) velikost += QSize(0, horizontalScrollBar()->sizeHint().height());
+    if (chce.height() > misto.height())
+        velikost += QSize(verticalScrollBar()->sizeHint().width(), 0);
+    if (chce.width() > misto.width())
+        velikost += QSize(0, horizontalScrollBar()->sizeHint().height());
     return velikost.boundedTo(misto);
 }
 

@@ -1,5 +1,6 @@
 #include "desktop/strom_vypoctu.h"
 
+#include <QApplication>
 #include <QHeaderView>
 #include <QPainter>
 #include <algorithm>
@@ -64,7 +65,9 @@ QPixmap znacka_uzlu(DruhUzlu druh, int velikost) {
     const auto& popisy = popisy_uzlu();
     const auto it = std::find_if(popisy.begin(), popisy.end(),
                                  [druh](const PopisUzlu& p) { return p.druh == druh; });
-    QPixmap obrazek(velikost, velikost);
+    const qreal bodu = qApp->devicePixelRatio();
+    QPixmap obrazek(QSize(velikost, velikost) * bodu);
+    obrazek.setDevicePixelRatio(bodu);
     obrazek.fill(Qt::transparent);
     QPainter p(&obrazek);
     p.setRenderHint(QPainter::Antialiasing);

@@ -1,5 +1,5 @@
-// Actions of the main menu that open the records: each makes its screen, shows it and returns when it
-// was closed. False when the action was refused; its message was shown then.
+// Actions of the main menu that open the records: each makes its screen, shows it and returns when
+// it was closed. False when the action was refused; its message was shown then.
 #pragma once
 
 #include "shell/session.h"

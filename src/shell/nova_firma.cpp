@@ -16,6 +16,10 @@ namespace shell {
 
 namespace {
 
+constexpr int k_stredisek_vykonu = 10;
+constexpr int k_bez_strediska = -1;
+constexpr int k_nejvyssi_stredisko = 99;
+
 /// The newest version of the family's data: a company made now needs no upgrade.
 constexpr int k_verze_dat = 6;
 constexpr std::size_t k_nejvyse_rpd = std::size_t{16} * 1024 * 1024;
@@ -52,6 +56,23 @@ void zaloz_setup(store::Connection& ucet, const UdajeFirmy& udaje) {
     setup.post();
 }
 
+/// Performance 0 with every cost centre: a card without a performance reads as 000, and a worker
+/// with a fixed salary could not be saved if that were not allowed.
+void zaloz_vykon_0(store::Connection& ucet) {
+    store::Table vykony;
+    vykony.set_connection(ucet);
+    vykony.set_table_name("vykony");
+    vykony.open();
+    vykony.append();
+    vykony.set("Vykon", 0);
+    vykony.set("Text", "bez výkonu");
+    for (int i = 1; i <= k_stredisek_vykonu; ++i)
+        vykony.set("St" + std::to_string(i), k_bez_strediska);
+    vykony.set("Stod", 0);
+    vykony.set("Stdo", k_nejvyssi_stredisko);
+    vykony.post();
+}
+
 void zaloz_ucetnictvi(const std::filesystem::path& slozka_ucet, const UdajeFirmy& udaje) {
     {
         store::Connection ucet(slozka_ucet);
@@ -60,6 +81,7 @@ void zaloz_ucetnictvi(const std::filesystem::path& slozka_ucet, const UdajeFirmy
         for (const char* tabulka : {"Uctovano", "vykony", "Adresy"}) {
             ucet.create_table(store::definition_of(tabulka));
         }
+        zaloz_vykon_0(ucet);
         transakce.commit();
     }
     zapis_zaznam(slozka_ucet / "rid_ucet.idx", bajty(UcetniRidici{}));

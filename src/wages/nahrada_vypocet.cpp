@@ -65,6 +65,8 @@ class PrubehNeschopnosti {
     const FondyNahrady& fondy() const { return fondy_; }
     int kalendarni() const { return kalendarni_; }
     int pracovni() const { return pracovni_; }
+    /// Working days of the month of entry in funds A, B and C.
+    const std::array<int, 3>& dnu_fondu() const { return dnu_fondu_; }
 
   private:
     /// A day may add to two funds: a waiting day past the last compensated one counts in both.
@@ -72,37 +74,44 @@ class PrubehNeschopnosti {
         ++fondy_.kalendarnich;
         if (minut != 0) ++fondy_.pracovnich;
         if (pracovni_ <= rezim_.cekaci_dny) {
-            fondy_.a += minut;
+            pridej(0, fondy_.a, minut);
         } else if (kalendarni_ <= rezim_.posledni_den) {
-            fondy_.b += minut;
+            pridej(1, fondy_.b, minut);
         }
-        if (kalendarni_ > rezim_.posledni_den) fondy_.c += minut;
+        if (kalendarni_ > rezim_.posledni_den) pridej(2, fondy_.c, minut);
+    }
+    void pridej(std::size_t ktery, int& fond, int minut) {
+        fond += minut;
+        if (minut != 0) ++dnu_fondu_[ktery];
     }
 
     const RezimNahrady& rezim_;
     const KalendareNahrady& kalendare_;
     int mesic_, rok_;
     int kalendarni_ = 0, pracovni_ = 0;
+    std::array<int, 3> dnu_fondu_{};
     FondyNahrady fondy_;
 };
 
 void zapis_fondy(base::Stopa& stopa, const base::Datum& od, const base::Datum& do_,
                  const RezimNahrady& rezim, const PrubehNeschopnosti& prubeh) {
     const FondyNahrady& fondy = prubeh.fondy();
-    const auto krok = [&](const char* pravidlo, const char* promenna, int minut) {
+    const auto krok = [&](const char* pravidlo, const char* promenna, int minut, int dnu) {
         stopa.krok(pravidlo)
             .udaj("trvání od", base::datum_textem(od), "Nahrady.Trvani_od")
             .udaj("trvání do", base::datum_textem(do_), "Nahrady.Trvani_do")
             .konstanta("čekací pracovní dny", static_cast<Castka>(rezim.cekaci_dny))
             .konstanta("poslední den náhrady", static_cast<Castka>(rezim.posledni_den))
-            .vetev(fmt::format("{} v měsíci zadání; od počátku {} kalendářních a {} pracovních dnů",
-                               cas_textem(minut), prubeh.kalendarni(), prubeh.pracovni()))
+            .vetev(fmt::format("v měsíci zadání {}, pracovních dnů {}; od počátku dnů "
+                               "kalendářních {}, pracovních {}",
+                               cas_textem(minut), dnu, prubeh.kalendarni(), prubeh.pracovni()))
             .predpis(k_zakon_nahrady)
             .vysledek(promenna, static_cast<Castka>(minut));
     };
-    krok("fond A: čekací dny, minuty kalendáře", "fond_a", fondy.a);
-    krok("fond B: dny s náhradou, minuty kalendáře", "fond_b", fondy.b);
-    krok("fond C: dny po konci náhrady, minuty kalendáře", "fond_c", fondy.c);
+    krok("fond A, minut: čekací dny podle kalendáře", "fond_a", fondy.a, prubeh.dnu_fondu()[0]);
+    krok("fond B, minut: dny s náhradou podle kalendáře", "fond_b", fondy.b, prubeh.dnu_fondu()[1]);
+    krok("fond C, minut: dny po konci náhrady podle kalendáře", "fond_c", fondy.c,
+         prubeh.dnu_fondu()[2]);
 }
 
 std::string promenna(const char* zaklad, char fond) {
@@ -189,7 +198,8 @@ Castka castka_nahrady(Castka hodinova, int minut, char fond, base::Stopa* stopa)
     if (stopa) {
         stopa->krok(fmt::format("náhrada za fond {}", fond))
             .z("náhrada za hodinu", promenna("hod_nahrada", fond), hodinova)
-            .z("fond, minut", promenna("fond", fond), static_cast<Castka>(minut))
+            .z(fmt::format("fond {}, minut", fond), promenna("fond", fond),
+               static_cast<Castka>(minut))
             .zaokrouhleni(base::na_halere_nahoru)
             .vysledek(promenna("nahrada", fond), castka);
     }

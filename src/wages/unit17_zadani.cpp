@@ -129,10 +129,13 @@ void TForm17::nacti_soucty_sloupcu() {
 
 void TForm17::vyber_pracovnika(int radek) {
     pracovnik = radek;
+    const std::int64_t dosavadni = karta_.Pocitadlo;
     karta_ = radek < 0
                  ? KartaZadani{}
                  : nacti_kartu_zadani(session_,
                                       pracovnici[static_cast<std::size_t>(radek)].karta->Pocitadlo);
+    // What stands on the page was computed from the calendars and the average of another worker.
+    if (karta_.Pocitadlo != dosavadni && stranka == Stranka::nahrady) nahrady.vymaz();
     nacti_soucty_sloupcu();
     Udelej_kontrolu();
     oznam_zmenu();

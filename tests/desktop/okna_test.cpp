@@ -11,11 +11,13 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <gtest/gtest.h>
 
 #include "base/chyba.h"
 #include "base/soubory.h"
 #include "desktop/okno_form1.h"
+#include "desktop/poloha_okna.h"
 #include "desktop/posuvny_obsah.h"
 #include "desktop/vzhled.h"
 #include "firma_v_oknech.h"
@@ -51,7 +53,7 @@ struct Pismo {
     ~Pismo() { desktop::nastav_vzhled(aplikace(), 0, k_bezne); }
     Pismo(const Pismo&) = delete;
     Pismo& operator=(const Pismo&) = delete;
-    static constexpr int k_bezne = 9, k_velke = 14;
+    static constexpr int k_bezne = 9, k_velke = 14, k_obri = 20;
 };
 
 /// The content's part of the window that is seen.
@@ -140,7 +142,8 @@ TEST_P(OknaPriPismu, HlavniOknoSeVejdeNaMalyMonitor) {
     zkontroluj(okno, GetParam());
 }
 
-INSTANTIATE_TEST_SUITE_P(Bodu, OknaPriPismu, testing::Values(Pismo::k_bezne, Pismo::k_velke));
+INSTANTIATE_TEST_SUITE_P(Bodu, OknaPriPismu,
+                         testing::Values(Pismo::k_bezne, Pismo::k_velke, Pismo::k_obri));
 
 TEST(Obsluha, OtazkaMaPredvolenoNe) {
     aplikace();
@@ -206,6 +209,17 @@ TEST(PametOken, OknoSeOtevreKdeBylo) {
         };
         otevri([&](QWidget& okno) { okno.setGeometry(misto); });
         otevri([&](QWidget& okno) { EXPECT_EQ(okno.geometry() == misto, pamatovat); });
+    }
+}
+
+TEST(PametOken, OknoZVetsihoMonitoruSeVratiNaTento) {
+    const base::PolohaOkna mimo[] = {
+        {false, 1200, 2500, 700, 480}, {false, -300, -900, 700, 480}, {false, 0, 0, 3000, 2000}};
+    for (const base::PolohaOkna& poloha : mimo) {
+        QDialog okno;
+        desktop::umisti_okno(okno, poloha);
+        EXPECT_TRUE(okno.screen()->availableGeometry().contains(okno.geometry()))
+            << poloha.vlevo << " " << poloha.nahore;
     }
 }
 

@@ -12,7 +12,6 @@
 #include <gtest/gtest.h>
 
 #include "firma_v_oknech.h"
-#include "store/transfer.h"
 #include "workers/unit7_karta.h"
 
 namespace {
@@ -21,12 +20,6 @@ using namespace zkouska;
 
 struct KartaVOkne : FirmaVOknech {
     KartaVOkne() {
-        const auto vysledek = store::import_csv(
-            firma.session.ucet(), "vykony",
-            "Vykon,St1,St2,St3,St4,St5,St6,St7,St8,St9,St10,Stod,Stdo\n0,-1,-1,-1,-1,-1,-1,-1,-1,"
-            "-1,-1,0,99\n",
-            "vykony", false);
-        EXPECT_TRUE(vysledek.errors.empty());
         firma.vloz("Zdr_poj", "Cislo,Nazev,Kod_zp\n1,Všeobecná,111\n51,Fond,\n");
         firma.session.zavri_spojeni();
     }

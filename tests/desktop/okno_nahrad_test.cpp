@@ -97,6 +97,7 @@ TEST(OknoNahrad, PrehledVedeKSestaveATiskSamNic) {
         v_okne([](QWidget& prehled) {
             EXPECT_EQ(prehled.windowTitle(), "Přehled náhrad za pracovní neschopnost - FIRMA22");
             EXPECT_FALSE(prvek<QPushButton>(prehled, "acTisk").isEnabled());
+            QTest::keyClick(&prvek<QWidget>(prehled, "mrizka"), Qt::Key_Return);  // read only
             v_okne([](QWidget& tisk) {
                 auto& cislo = prvek<QLineEdit>(tisk, "cislo");
                 EXPECT_FALSE(cislo.isEnabled());

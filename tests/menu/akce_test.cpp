@@ -104,9 +104,11 @@ TEST(MesicniAkce, OdmitnutaNechaSessionAVratiFokusNaMesic) {
         const char* popis;
         int mesic, aktivni;
         bool ma_listinu;
+        const char* akce = "acVypocetVyplat";
     } pripady[] = {{"uzavřený měsíc", 2, 5, false},
                    {"bez hrubých mezd", 7, 7, false},
-                   {"původní výplaty zůstanou", 2, 2, true}};
+                   {"původní výplaty zůstanou", 2, 2, true},
+                   {"zadání do uzavřeného měsíce", 2, 5, false, "acHrubeZorvNahrady"}};
     for (const auto& p : pripady) {
         Hlavni h;
         auto& session = h.firma.session;
@@ -118,11 +120,25 @@ TEST(MesicniAkce, OdmitnutaNechaSessionAVratiFokusNaMesic) {
         session.aktivni_mesic = p.aktivni;
         session.zpracovavany_mesic = 4;
         h.form.mesic = p.mesic;
-        EXPECT_FALSE(h.form.proved_akci("acVypocetVyplat")) << p.popis;
+        EXPECT_FALSE(h.form.proved_akci(p.akce)) << p.popis;
         EXPECT_TRUE(h.form.fokus_na_mesici) << p.popis;
         EXPECT_EQ(session.zpracovavany_mesic, 4) << p.popis;
         EXPECT_TRUE(h.ukazano.empty()) << p.popis;
     }
+}
+
+TEST(MesicniAkce, VpustenaPracujeSMesicemZPole) {
+    Hlavni h;
+    auto& session = h.firma.session;
+    h.firma.vloz("Hrube02", "Mesic,Cislo_pracovnika,Modul\n2,7,1\n");
+    session.aktivni_mesic = h.form.mesic = 2;
+    session.zpracovavany_mesic = 4;
+    h.firma.obsluha.pri_obrazovce = [&](base::Obrazovka&) {
+        EXPECT_EQ(session.zpracovavany_mesic, 2);
+        h.ukazano.emplace_back("výpočet");
+    };
+    EXPECT_TRUE(h.form.proved_akci("acVypocetVyplat"));
+    EXPECT_EQ(h.ukazano.size(), 1U);
 }
 
 TEST(MesicniAkce, OdmitnutyImportHrubychNechaMesicNaSvem) {

@@ -14,7 +14,6 @@
 #include "paysheet/unit3_seznam_sloupcu.h"
 #include "paysheet/unit4_sloupec.h"
 #include "shell/nova_firma.h"
-#include "store/transfer.h"
 #include "support/prazdna_relace.h"
 #include "wages/unit17_zadani.h"
 #include "wages/unit_rpd.h"
@@ -67,10 +66,6 @@ class CelaCesta : public testing::Test, protected zkouska::PrazdnaRelace {
     void zaloz_firmu() {
         na_obrazovce<paysheet::TForm2>([](auto& struktura) { struktura.btOKClick(); });
         ASSERT_TRUE(hlavni.zaloz_soubory());
-        const char* bez_vykonu =
-            "Vykon,St1,St2,St3,St4,St5,St6,St7,St8,St9,St10,Stod,Stdo\n"
-            "0,-1,-1,-1,-1,-1,-1,-1,-1,-1,-1,0,99\n";
-        store::import_csv(session.ucet(), "vykony", bez_vykonu, "vykony", false);
     }
 
     void uprav_sloupec(paysheet::TForm3& seznam, int sloupec, std::function<void(TForm4&)> prace) {

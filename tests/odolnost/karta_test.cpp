@@ -1,53 +1,34 @@
 // A worker's new number reaches all tables or none: saving the card is killed at every write to the
 // disk, and every write fails once.
-#include <filesystem>
 #include <fmt/format.h>
 #include <set>
-#include <sys/wait.h>
-#include <unistd.h>
 
-#include "store/fault_vfs.h"
+#include "odolnost/odolnost.h"
 #include "store/query.h"
-#include "support/zkusebni_firma.h"
 #include "workers/unit7_karta.h"
 
 namespace zkouska {
 namespace {
 
-namespace fs = std::filesystem;
-
-constexpr long k_nejvice_operaci = 2000;
-
-class OdolnostKarty : public testing::Test {
+class OdolnostKarty : public Odolnost {
   protected:
     OdolnostKarty() {
-        {
-            const FaultyDisk sleduj(Fault::none, 0);
-            ZkusebniFirma firma;
-            firma.vloz("Zdr_poj", "Cislo,Nazev\n1,Všeobecná\n");
-            firma.vloz("Os_karty",
-                       "Cislo,Prijmeni,Jmeno,Dat_nar_text,tpd,Cislo_zdrav_poj\n"
-                       "7,Novák,Petr,1.1.1980,40,1\n8,Malá,Eva,1.1.1980,40,1\n");
-            for (const int mesic : {1, 12}) {
-                const std::string vety =
-                    "Cislo_pracovnika,Prijmeni,Jmeno\n7,Novák,Petr\n8,Malá,Eva\n";
-                firma.vloz(fmt::format("Hrube{:02}", mesic), vety);
-                firma.vloz(fmt::format("Listin{:02}", mesic), vety);
-            }
-            firma.vloz("Fixni", "Cislo_pracovnika,Sloupec,Kcs\n7,13,200\n");
-            firma.session.zavri_spojeni();
-            fs::copy(firma.slozka.cesta(), puvodni(), fs::copy_options::recursive);
+        firma().vloz("Zdr_poj", "Cislo,Nazev\n1,Všeobecná\n");
+        firma().vloz("Os_karty",
+                     "Cislo,Prijmeni,Jmeno,Dat_nar_text,tpd,Cislo_zdrav_poj\n"
+                     "7,Novák,Petr,1.1.1980,40,1\n8,Malá,Eva,1.1.1980,40,1\n");
+        for (const int mesic : {1, 12}) {
+            const std::string vety = "Cislo_pracovnika,Prijmeni,Jmeno\n7,Novák,Petr\n8,Malá,Eva\n";
+            firma().vloz(fmt::format("Hrube{:02}", mesic), vety);
+            firma().vloz(fmt::format("Listin{:02}", mesic), vety);
         }
+        firma().vloz("Fixni", "Cislo_pracovnika,Sloupec,Kcs\n7,13,200\n");
+        zavri_firmu();
+        pripravena();
         obnov();
         stare_ = obsah();
         uloz_kartu();
         nove_ = obsah();
-    }
-    fs::path puvodni() const { return dilna_ / "puvodni"; }
-    fs::path zkousena() const { return dilna_ / "zkousena"; }
-    void obnov() {
-        fs::remove_all(zkousena());
-        fs::copy(puvodni(), zkousena(), fs::copy_options::recursive);
     }
     /// Worker 7 becomes 77 with another name.
     void uloz_kartu() {
@@ -91,53 +72,18 @@ class OdolnostKarty : public testing::Test {
         videno_.insert(nalezeno == nove_);
     }
 
-    DocasnaSlozka dilna_;
     std::string stare_, nove_;
     std::set<bool> videno_;
 };
 
 TEST_F(OdolnostKarty, ZabityKdykoliNechaStareNeboNoveCisloVsude) {
     ASSERT_NE(stare_, nove_);
-    bool zabito = true;
-    long n = 0;
-    while (zabito && n < k_nejvice_operaci && !HasFailure()) {
-        SCOPED_TRACE(++n);
-        obnov();
-        const pid_t potomek = fork();
-        if (potomek == 0) {
-            const FaultyDisk disk(Fault::kill, n);
-            uloz_kartu();
-            _exit(0);
-        }
-        int stav = 0;
-        ASSERT_EQ(waitpid(potomek, &stav, 0), potomek);
-        ASSERT_TRUE(WIFEXITED(stav));
-        zabito = WEXITSTATUS(stav) == killed_status;
-        over(!zabito);
-    }
-    EXPECT_GT(n, 10);
+    zabijej([this] { uloz_kartu(); }, [this](bool dokonceno) { over(dokonceno); });
     EXPECT_EQ(videno_.size(), 2U);
 }
 
 TEST_F(OdolnostKarty, SelhaniZapisuNechaStareNeboNoveCisloVsude) {
-    bool zasazeno = true;
-    long n = 0;
-    while (zasazeno && n < k_nejvice_operaci && !HasFailure()) {
-        SCOPED_TRACE(++n);
-        obnov();
-        bool dokonceno = true;
-        {
-            const FaultyDisk disk(Fault::error_once, n);
-            try {
-                uloz_kartu();
-            } catch (const base::ChybaDat&) {
-                dokonceno = false;
-            }
-            zasazeno = disk.struck();
-        }
-        over(dokonceno);
-    }
-    EXPECT_GT(n, 10);
+    kaz([this] { uloz_kartu(); }, [this](bool dokonceno) { over(dokonceno); });
 }
 
 }  // namespace

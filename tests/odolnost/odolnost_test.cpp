@@ -1,27 +1,20 @@
 // Nothing is lost: an import and a pay run are killed at every write to the disk, and every write
 // fails once. Each time the folder opens, its database is sound, and the month is as before, an
 // empty sheet, or complete.
-#include <filesystem>
+#include "odolnost/odolnost.h"
+
 #include <fmt/format.h>
-#include <functional>
 #include <set>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include "menu/unit1_hlavni.h"
 #include "payrun/unit21_vypocet_vyplat.h"
-#include "store/fault_vfs.h"
 #include "store/query.h"
 #include "store/transfer.h"
-#include "support/zkusebni_firma.h"
 
 namespace zkouska {
 namespace {
 
-namespace fs = std::filesystem;
-
 constexpr int k_pracovniku = 40;
-constexpr long k_nejvice_operaci = 5000;
 
 std::string karty() {
     std::string csv =
@@ -48,94 +41,15 @@ std::string obsah(const fs::path& slozka, const std::string& tabulka) {
     return store::export_csv(data, tabulka);
 }
 
-/// The company's payroll folder with an untouched copy beside it, to which every trial returns.
-class Odolnost : public ::testing::Test {
+class OdolnostMesice : public Odolnost {
   protected:
-    void pripravena() { prekopiruj(firma().slozka.cesta(), puvodni()); }
-    void obnov() { prekopiruj(puvodni(), zkousena()); }
-    void zapamatuj() { prekopiruj(zkousena(), puvodni()); }
-    ZkusebniFirma& firma() { return *firma_; }
-    void zavri_firmu() { firma_->session.zavri_spojeni(); }
-    fs::path puvodni() const { return dilna_ / "puvodni"; }
-    fs::path zkousena() const { return dilna_ / "zkousena"; }
-    fs::path zorv() const { return zkousena() / "FIRMA22" / "Zorv"; }
-
-    /// Runs the work in a process of its own that is killed at its n-th write; false when it got to
-    /// its end.
-    bool zabit(long n, const std::function<void()>& prace) {
-        const pid_t potomek = fork();
-        if (potomek == 0) {
-            const FaultyDisk disk(Fault::kill, n);
-            prace();
-            _exit(0);
-        }
-        int stav = 0;
-        EXPECT_EQ(waitpid(potomek, &stav, 0), potomek);
-        EXPECT_TRUE(WIFEXITED(stav));
-        EXPECT_TRUE(WEXITSTATUS(stav) == 0 || WEXITSTATUS(stav) == killed_status);
-        return WEXITSTATUS(stav) == killed_status;
-    }
-
-    /// Kills at the first, second, ... write until the work ends; `over` looks at what is left each
-    /// time.
-    void zabijej(const std::function<void()>& prace,
-                 const std::function<void(bool dokonceno)>& over) {
-        long n = 0;
-        for (bool zabito = true; zabito && n < k_nejvice_operaci && !HasFatalFailure();) {
-            SCOPED_TRACE(++n);
-            obnov();
-            zabito = zabit(n, prace);
-            over(!zabito);
-        }
-        EXPECT_GT(n, 10) << "zápisů na disk je podezřele málo";
-        EXPECT_LT(n, k_nejvice_operaci);
-    }
-
-    /// Lets the first, second, ... write fail once, then with all later ones.
-    void kaz(const std::function<void()>& prace, const std::function<void(bool dokonceno)>& over) {
-        kaz_chybou(Fault::error_once, prace, over);
-        kaz_chybou(Fault::full_from, prace, over);
-    }
-
-    /// The work either reports the failure or gets over it.
-    void kaz_chybou(Fault chyba, const std::function<void()>& prace,
-                    const std::function<void(bool dokonceno)>& over) {
-        long n = 0;
-        for (bool zasazeno = true; zasazeno && n < k_nejvice_operaci;) {
-            SCOPED_TRACE(++n);
-            obnov();
-            bool dokonceno = true;
-            {
-                const FaultyDisk disk(chyba, n);
-                try {
-                    prace();
-                } catch (const base::ChybaDat&) {
-                    dokonceno = false;
-                }
-                zasazeno = disk.struck();
-            }
-            over(dokonceno);
-        }
-        EXPECT_GT(n, 10);
-    }
-
     void vloz_mesic() {
         firma().vloz("Os_karty", karty());
         firma().vloz("Hrube01", hrube(1000));
     }
-
-    DocasnaSlozka dilna_;
-
-  private:
-    static void prekopiruj(const fs::path& odkud, const fs::path& kam) {
-        fs::remove_all(kam);
-        fs::copy(odkud, kam, fs::copy_options::recursive);
-    }
-    const FaultyDisk sleduj_{Fault::none, 0};
-    std::unique_ptr<ZkusebniFirma> firma_ = std::make_unique<ZkusebniFirma>();
 };
 
-class OdolnostImportu : public Odolnost {
+class OdolnostImportu : public OdolnostMesice {
   protected:
     void SetUp() override {
         vloz_mesic();
@@ -174,7 +88,7 @@ TEST_F(OdolnostImportu, SelhaniZapisuNechaStaryNeboNovyMesic) {
 }
 
 /// The whole action "Výpočet výplat" of January, a second time over a computed month.
-class OdolnostVypoctu : public Odolnost {
+class OdolnostVypoctu : public OdolnostMesice {
   protected:
     void SetUp() override {
         vloz_mesic();

@@ -171,6 +171,10 @@ TEST(StrankaNahrad, VysvetleniRozlisiVypocetARucniZadani) {
     StrankaNahrad& s = n.neschopnost(TypNahrady::nemoc, 3, "7.3.2022", "13.3.2022");
     EXPECT_TRUE(vysvetluje(s, "náhrada celkem = 4906,8"));
     EXPECT_TRUE(vysvetluje(s, "z karty = 227,15  ← Os_karty.PdovH4min"));
+    EXPECT_TRUE(
+        vysvetluje(s,
+                   "v měsíci zadání 40:00, pracovních dnů 5; od počátku dnů kalendářních 7, "
+                   "pracovních 5"));
     EXPECT_FALSE(vysvetluje(s, "ručně"));
     ASSERT_FALSE(s.strom.uzly().empty());
     EXPECT_EQ(s.strom.uzel(0).hodnota, "4906,8");
@@ -187,11 +191,11 @@ TEST(StrankaNahrad, VysvetleniRozlisiVypocetARucniZadani) {
     prepis(PoleNahrad::hod_nahrada_b, s.scHodNahradaB, "100");
     EXPECT_TRUE(vysvetluje(s, "náhrada celkem = 4000"));
     EXPECT_TRUE(vysvetluje(s, "náhrada za hodinu = 100: zadáno ručně"));
-    EXPECT_TRUE(vysvetluje(s, "fond, minut = 2400: fond B"));
+    EXPECT_TRUE(vysvetluje(s, "fond B, minut = 2400: fond B"));
     prepis(PoleNahrad::fond_b, s.scFondB, "24,30");
     EXPECT_EQ(s.scFondB, "24:30");
     EXPECT_EQ(s.scNahradaB, "3005,42");  // 122,67 an hour again, 24,5 hours
-    EXPECT_TRUE(vysvetluje(s, "fond, minut = 1470: zadáno ručně"));
+    EXPECT_TRUE(vysvetluje(s, "fond B, minut = 1470: zadáno ručně"));
     EXPECT_FALSE(vysvetluje(s, "náhrada za hodinu = 122,67: zadáno ručně"));
     prepis(PoleNahrad::celkova_nahrada, s.scCelkovaNahrada, "3000");
     EXPECT_EQ(s.vysvetleni(0), "zadáno ručně = 3000\n");
@@ -317,7 +321,7 @@ TEST(ZapsaneNahrady, SestavaPodleMesicuAPracovnika) {
     const auto je = [&](const char* cast) { return text.find(cast) != std::string::npos; };
     sestava(2, 3, "");
     for (const char* cast : {"únor až březen  2022, všichni pracovníci", "20  Černá Eva",
-                             "Celkem Černá Eva, dokladů: 3", "128:00", "3 925,44", "AB 7", "OČR",
+                             "Celkem pracovník 20, dokladů: 3", "128:00", "3 925,44", "AB 7", "OČR",
                              "karanténa", "Celkem, dokladů: 4", "4 025,94"})
         EXPECT_TRUE(je(cast)) << cast << "\n" << text;
     EXPECT_FALSE(je("5 888,16")) << "leden do rozsahu nepatří";

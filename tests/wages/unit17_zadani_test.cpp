@@ -370,6 +370,20 @@ TEST_F(ZadaniHrubych, NahradaSeSpocitaZapiseAMesicNeoznaci) {
     EXPECT_EQ(wages::kalendarni_dny_nemoci(firma.session, 20), 7);
 }
 
+TEST_F(ZadaniHrubych, NahradaPatriPracovnikoviKterymuSeSpocitala) {
+    form.vyber_pracovnika(1);
+    sloupec(7);
+    form.nahrady.scTrvaniOd = "7.3.2022";
+    form.nahrady.scTrvaniDo = "13.3.2022";
+    form.nahrady.zmena();
+    form.nahradyExit(PoleNahrad::trvani_do);
+    form.Filtruj_adresy();
+    EXPECT_EQ(form.nahrady.scCelkovaNahrada, "4906,80") << "stejný pracovník";
+    form.vyber_pracovnika(0);
+    EXPECT_EQ(form.nahrady.scTrvaniOd + form.nahrady.scCelkovaNahrada, "0,00");
+    EXPECT_FALSE(form.nahrady.panel_viditelny);
+}
+
 TEST_F(ZadaniHrubych, NahradaBezProplaceniABezKalendare) {
     form.vyber_pracovnika(0);
     sloupec(8);

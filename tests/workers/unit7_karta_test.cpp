@@ -4,7 +4,6 @@
 #include <fmt/format.h>
 #include <gtest/gtest.h>
 
-#include "store/transfer.h"
 #include "support/zkusebni_firma.h"
 #include "workers/unit7_vyber_pracovnika.h"
 #include "workers/unit7_vypis.h"
@@ -15,12 +14,6 @@ using namespace workers;
 
 struct Form7 : testing::Test {
     Form7() {
-        const auto vysledek = store::import_csv(
-            firma.session.ucet(), "vykony",
-            "Vykon,St1,St2,St3,St4,St5,St6,St7,St8,St9,St10,Stod,Stdo\n0,-1,-1,-1,-1,-1,-1,-1,-1,"
-            "-1,-1,0,99\n",
-            "vykony", false);
-        EXPECT_TRUE(vysledek.errors.empty());
         firma.vloz("Zdr_poj", "Cislo,Nazev,Kod_zp\n1,Všeobecná,111\n51,Fond,\n");
         firma.vloz("Os_karty",
                    "Cislo,Prijmeni,Jmeno,Titul,Dat_nar_text,Cislo_zdrav_poj,tpd,Prum_nemoc_1,"

@@ -28,7 +28,7 @@ const std::map<char, StrankaKarty> k_stranky_hlasek{
 struct Karta : testing::Test {
     Karta() {
         const auto vysledek =
-            store::import_csv(firma.session.ucet(), "vykony", k_vykony, "vykony", false);
+            store::import_csv(firma.session.ucet(), "vykony", k_vykony, "vykony", true);
         EXPECT_TRUE(vysledek.errors.empty());
         firma.vloz("Zdr_poj",
                    "Cislo,Nazev,Kod_zp\n1,Všeobecná,111\n2,Bez kódu,\n3,Cizí,999\n51,Fond,\n");
