@@ -6,9 +6,7 @@
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLineEdit>
 #include <QListWidget>
-#include <QPushButton>
 #include <QShortcut>
 #include <QSplitter>
 #include <QTableView>
@@ -17,6 +15,7 @@
 
 #include "base/castky_text.h"
 #include "base/datum.h"
+#include "desktop/filtr_pracovniku.h"
 #include "desktop/model_seznamu.h"
 #include "desktop/strom_vypoctu.h"
 #include "desktop/text_qt.h"
@@ -151,38 +150,13 @@ QWidget* OknoForm133::leva_strana() {
 }
 
 QWidget* OknoForm133::filtr() {
-    auto* radek = new QWidget;
-    auto* vodorovne = new QHBoxLayout(radek);
-    vodorovne->setContentsMargins(0, 0, 0, 0);
-    auto* pole = new QLineEdit;
-    pole->setObjectName("filtr");
-    pole->setAccessibleName("filtr pracovníků");
-    pole->setPlaceholderText("číslo či jméno");
-    vazba().pole(*pole, form_.filtr);
-    connect(pole, &QLineEdit::textEdited, this, [this] { form_.Filtruj_adresy(); });
-    auto* nazev = new QLabel("&Filtr:");
-    nazev->setBuddy(pole);
-    auto* zrusit = new QPushButton("&X");
-    zrusit->setObjectName("btX");
-    zrusit->setAccessibleName("zrušit filtr");
-    zrusit->setAutoDefault(false);
-    zrusit->setFixedWidth(zrusit->fontMetrics().horizontalAdvance("XXXXX"));
-    vazba().tlacitko(*zrusit, [this] { form_.btXClick(); });
-
-    auto* trideni = new QComboBox;
-    trideni->setObjectName("trideni");
-    trideni->setAccessibleName("třídit");
-    for (const char* jak : payrun::k_trideni_pracovniku)
-        trideni->addItem(QString::fromUtf8(jak));
-    vazba().vyber(*trideni, form_.trideni, [this] { form_.Filtruj_adresy(); });
-    auto* tridit = new QLabel("T&řídit:");
-    tridit->setBuddy(trideni);
-    vodorovne->addWidget(nazev);
-    vodorovne->addWidget(pole, 1);
-    vodorovne->addWidget(zrusit);
-    vodorovne->addWidget(tridit);
-    vodorovne->addWidget(trideni);
-    return radek;
+    return filtr_pracovniku(
+        vazba(), {form_.filtr, payrun::k_trideni_pracovniku, [this] { return form_.trideni; },
+                  [this](int jak) {
+                      form_.trideni = jak;
+                      form_.Filtruj_adresy();
+                  },
+                  [this] { form_.Filtruj_adresy(); }, [this] { form_.btXClick(); }});
 }
 
 QTableView* OknoForm133::seznam_pracovniku() {

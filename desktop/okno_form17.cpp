@@ -18,6 +18,7 @@
 
 #include "base/castky_text.h"
 #include "base/klavesy.h"
+#include "desktop/filtr_pracovniku.h"
 #include "desktop/model_seznamu.h"
 #include "desktop/prvky.h"
 #include "desktop/text_qt.h"
@@ -109,42 +110,14 @@ bool OknoForm17::eventFilter(QObject* kdo, QEvent* udalost) {
 }
 
 QWidget* OknoForm17::filtr() {
-    auto* radek = new QWidget;
-    auto* vodorovne = new QHBoxLayout(radek);
-    vodorovne->setContentsMargins(0, 0, 0, 0);
-    auto* pole = new QLineEdit;
-    pole->setObjectName("filtr");
-    pole->setAccessibleName("filtr pracovníků");
-    pole->setPlaceholderText("číslo nebo část jména");
-    vazba().pole(*pole, form_.filtr);
-    connect(pole, &QLineEdit::textEdited, this, [this] { form_.Filtruj_adresy(); });
-    auto* nazev = new QLabel("&Filtr:");
-    nazev->setBuddy(pole);
-    auto* zrusit = new QPushButton("&X");
-    zrusit->setObjectName("btX");
-    zrusit->setAccessibleName("zrušit filtr");
-    zrusit->setAutoDefault(false);
-    zrusit->setFixedWidth(zrusit->fontMetrics().horizontalAdvance("XXXXX"));
-    vazba().tlacitko(*zrusit, [this] { form_.btXClick(); });
-    auto* trideni = new QComboBox;
-    trideni->setObjectName("trideni");
-    trideni->setAccessibleName("třídit");
-    for (const char* jak : workers::k_poradi_registru)
-        trideni->addItem(QString::fromUtf8(jak));
-    vazba().pri_obnove(
-        [this, trideni] { trideni->setCurrentIndex(static_cast<int>(form_.trideni)); });
-    connect(trideni, &QComboBox::activated, this, [this](int index) {
-        form_.trideni = static_cast<workers::PoradiRegistru>(index);
-        form_.Filtruj_adresy();
-    });
-    auto* tridit = new QLabel("T&řídit:");
-    tridit->setBuddy(trideni);
-    vodorovne->addWidget(nazev);
-    vodorovne->addWidget(pole, 1);
-    vodorovne->addWidget(zrusit);
-    vodorovne->addWidget(tridit);
-    vodorovne->addWidget(trideni);
-    return radek;
+    return filtr_pracovniku(vazba(),
+                            {form_.filtr, workers::k_poradi_registru,
+                             [this] { return static_cast<int>(form_.trideni); },
+                             [this](int jak) {
+                                 form_.trideni = static_cast<workers::PoradiRegistru>(jak);
+                                 form_.Filtruj_adresy();
+                             },
+                             [this] { form_.Filtruj_adresy(); }, [this] { form_.btXClick(); }});
 }
 
 QWidget* OknoForm17::pracovnici() {

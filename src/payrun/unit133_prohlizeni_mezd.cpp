@@ -4,46 +4,20 @@
 #include <fmt/format.h>
 
 #include "base/castky_text.h"
+#include "base/cekani.h"
 #include "base/datum.h"
 #include "base/text.h"
 #include "payrun/unit133_vystup.h"
 #include "payrun/unit50_blokace.h"
 #include "paysheet/listina.h"
 #include "report/nahled.h"
+#include "shell/prace_v_mesici.h"
 #include "shell/ulozeni_csv.h"
 #include "store/catalogue.h"
 
 namespace payrun {
 
 namespace {
-
-/// Marks that a dialog of the screen waits for the operator; its other actions are refused then.
-class Cekani {
-  public:
-    explicit Cekani(bool& ceka) : ceka_(ceka) { ceka_ = true; }
-    ~Cekani() { ceka_ = false; }
-    Cekani(const Cekani&) = delete;
-    Cekani& operator=(const Cekani&) = delete;
-
-  private:
-    bool& ceka_;
-};
-
-/// Makes a month the one being worked on for the length of a scope.
-class ZpracovavanyMesic {
-  public:
-    ZpracovavanyMesic(shell::Session& session, int mesic)
-        : session_(session), puvodni_(session.zpracovavany_mesic) {
-        session_.zpracovavany_mesic = mesic;
-    }
-    ~ZpracovavanyMesic() { session_.zpracovavany_mesic = puvodni_; }
-    ZpracovavanyMesic(const ZpracovavanyMesic&) = delete;
-    ZpracovavanyMesic& operator=(const ZpracovavanyMesic&) = delete;
-
-  private:
-    shell::Session& session_;
-    int puvodni_;
-};
 
 constexpr int k_modul_k_vyplate = 14;
 constexpr const char* k_zmenilo_se = "Karta nebo zadání se od výpočtu změnily: ";
@@ -271,7 +245,7 @@ std::string TForm133::kopie() const {
 
 void TForm133::acExportExecute() {
     if (ceka_na_obsluhu_ || pracovnici.empty()) return;
-    const Cekani cekani(ceka_na_obsluhu_);
+    const base::Cekani cekani(ceka_na_obsluhu_);
     shell::uloz_csv(session_, store::month_table("Listin", mesic_) + ".csv",
                     csv_listiny(pracovnici, nacti_radky_vsech(session_, mesic_)),
                     {"Složka pro výplatní listinu", nadpis, "Výplatní listina je v souboru"});
@@ -279,7 +253,7 @@ void TForm133::acExportExecute() {
 
 void TForm133::acTiskExecute() {
     if (ceka_na_obsluhu_ || pracovnici.empty()) return;
-    const Cekani cekani(ceka_na_obsluhu_);
+    const base::Cekani cekani(ceka_na_obsluhu_);
     const std::string obdobi = base::mesic_slovy(mesic_, session_.rok);
     report::TabulkovaSestava sestava =
         oblast == OblastMezd::pracovnici
@@ -296,8 +270,8 @@ void TForm133::acTiskExecute() {
 
 void TForm133::acBlokExecute() {
     if (ceka_na_obsluhu_ || !hlaska.empty()) return;
-    const Cekani cekani(ceka_na_obsluhu_);
-    const ZpracovavanyMesic mesic(session_, mesic_);
+    const base::Cekani cekani(ceka_na_obsluhu_);
+    const shell::PraceVMesici mesic(session_, mesic_);
     zaloz_soubor_pro_blokovani(session_);
     TForm50 blokace(session_);
     blokace.FormShow();

@@ -2,27 +2,12 @@
 
 #include <algorithm>
 
+#include "base/cekani.h"
 #include "base/datum.h"
 #include "base/text.h"
 #include "store/catalogue.h"
 
 namespace payrun {
-
-namespace {
-
-/// Marks that a dialog of the screen waits for the operator; its other actions are refused then.
-class Cekani {
-  public:
-    explicit Cekani(bool& ceka) : ceka_(ceka) { ceka_ = true; }
-    ~Cekani() { ceka_ = false; }
-    Cekani(const Cekani&) = delete;
-    Cekani& operator=(const Cekani&) = delete;
-
-  private:
-    bool& ceka_;
-};
-
-}  // namespace
 
 TForm50::TForm50(shell::Session& session) : session_(session) {}
 
@@ -100,7 +85,7 @@ void TForm50::najdi_pracovnika(int cislo) {
 
 void TForm50::Button2Click() {
     if (ceka_na_obsluhu_) return;
-    const Cekani cekani(ceka_na_obsluhu_);
+    const base::Cekani cekani(ceka_na_obsluhu_);
     const store::Table::Bookmark puvodni = najdi_vetu() ? blok_.bookmark() : 0;
     blok_.append();
     ukaz_vetu("NOVÁ  HODNOTA  PRO  BLOKACI", puvodni);
@@ -108,7 +93,7 @@ void TForm50::Button2Click() {
 
 void TForm50::Button3Click() {
     if (ceka_na_obsluhu_ || !najdi_vetu()) return;
-    const Cekani cekani(ceka_na_obsluhu_);
+    const base::Cekani cekani(ceka_na_obsluhu_);
     const store::Table::Bookmark puvodni = blok_.bookmark();
     blok_.edit();
     ukaz_vetu("OPRAVUJEME  BLOKOVANOU  HODNOTU", puvodni);
@@ -116,7 +101,7 @@ void TForm50::Button3Click() {
 
 void TForm50::Button4Click() {
     if (ceka_na_obsluhu_ || !najdi_vetu()) return;
-    const Cekani cekani(ceka_na_obsluhu_);
+    const base::Cekani cekani(ceka_na_obsluhu_);
     const std::string otazka = "Opravdu chcete vypustit označenou větu?";
     if (session_.obsluha().otazka_ano_ne(otazka, nadpis)) {
         store::Transaction transakce(session_.data());

@@ -3,11 +3,11 @@
 #include <fmt/format.h>
 
 #include "base/castky_text.h"
+#include "base/cekani.h"
 #include "base/chyba.h"
 #include "base/datum.h"
 #include "base/soubory.h"
 #include "store/table.h"
-#include "workers/cekani.h"
 
 namespace wages {
 namespace {
@@ -27,7 +27,7 @@ void TFHromadneZadani::FormShow() {
 
 void TFHromadneZadani::acVybratExecute() {
     if (ceka_na_obsluhu_) return;
-    const workers::Cekani ceka(ceka_na_obsluhu_);
+    const base::Cekani ceka(ceka_na_obsluhu_);
     const auto cesta = session_.obsluha().vyber_soubor("Položky hrubých mezd",
                                                        session_.cesta_dat.string(), "*.csv");
     if (cesta) nacti(*cesta);
@@ -55,7 +55,7 @@ void TFHromadneZadani::nacti(const std::string& cesta) {
 
 void TFHromadneZadani::acZapsatExecute() {
     if (!zapsat_povoleno || ceka_na_obsluhu_) return;
-    const workers::Cekani ceka(ceka_na_obsluhu_);
+    const base::Cekani ceka(ceka_na_obsluhu_);
     store::Transaction transakce(session_.data());
     zapis_hromadne(session_, session_.zpracovavany_mesic, davka);
     transakce.commit();

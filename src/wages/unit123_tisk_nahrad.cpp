@@ -2,12 +2,12 @@
 
 #include <fmt/format.h>
 
+#include "base/cekani.h"
 #include "base/datum.h"
 #include "base/text.h"
 #include "store/query.h"
 #include "wages/tisk_sablony.h"
 #include "wages/unit_nahrady_prehled.h"
-#include "workers/cekani.h"
 
 namespace wages {
 namespace {
@@ -74,7 +74,7 @@ std::string TForm123::chyba() const {
 
 void TForm123::acTiskExecute() {
     if (ceka_) return;
-    const workers::Cekani ceka(ceka_);
+    const base::Cekani ceka(ceka_);
     cisloExit();
     if (const std::string text = chyba(); !text.empty()) {
         fokus = mesic_od > mesic_do ? "mesic_do" : "cislo";

@@ -5,6 +5,7 @@
 #include <fmt/format.h>
 #include <unordered_map>
 
+#include "base/cekani.h"
 #include "base/datum.h"
 #include "base/text.h"
 #include "store/catalogue.h"
@@ -13,7 +14,6 @@
 #include "wages/unit20_sumarizace.h"
 #include "wages/unit43_vykony.h"
 #include "wages/unit_nahrady_prehled.h"
-#include "workers/cekani.h"
 #include "workers/vykony.h"
 
 namespace wages {
@@ -166,14 +166,14 @@ void TForm17::vyber_sloupec(int radek) {
 
 void TForm17::nahradyExit(PoleNahrad pole) {
     if (ceka_na_obsluhu_) return;
-    const workers::Cekani ceka(ceka_na_obsluhu_);
+    const base::Cekani ceka(ceka_na_obsluhu_);
     nahrady.opusteni(pole, karta_);
     oznam_zmenu();
 }
 
 void TForm17::acZapsatNahrady() {
     if (pracovnik < 0 || ceka_na_obsluhu_) return;
-    const workers::Cekani ceka(ceka_na_obsluhu_);
+    const base::Cekani ceka(ceka_na_obsluhu_);
     if (nahrady.over()) {
         nahrady.zapis(karta_);
         nahrady.vymaz();
@@ -226,7 +226,7 @@ void TForm17::Button2Click() {
 void TForm17::Button3Click() {
     const SloupecHrube* s = zvoleny();
     if (!s || pracovnik < 0 || !zapsat_viditelne || ceka_na_obsluhu_) return;
-    const workers::Cekani ceka(ceka_na_obsluhu_);
+    const base::Cekani ceka(ceka_na_obsluhu_);
     if (s->modul == k_modul_karanteny) {
         if (!base::neprazdny(nemoc.scKVyplate)) {
             stranka = Stranka::nemoc_2008;
@@ -333,7 +333,7 @@ void TForm17::kalkulacka_cssz() {
 
 void TForm17::acZeSouboru() {
     if (ceka_na_obsluhu_) return;
-    const workers::Cekani ceka(ceka_na_obsluhu_);
+    const base::Cekani ceka(ceka_na_obsluhu_);
     TFHromadneZadani hromadne(session_);
     hromadne.FormShow();
     session_.obsluha().ukaz_modalne(hromadne);
@@ -346,13 +346,13 @@ void TForm17::acZeSouboru() {
 
 void TForm17::acBlok() {
     if (ceka_na_obsluhu_ || !vazby_.blok) return;
-    const workers::Cekani ceka(ceka_na_obsluhu_);
+    const base::Cekani ceka(ceka_na_obsluhu_);
     vazby_.blok(session_);
 }
 
 void TForm17::acNahrady() {
     if (ceka_na_obsluhu_) return;
-    const workers::Cekani ceka(ceka_na_obsluhu_);
+    const base::Cekani ceka(ceka_na_obsluhu_);
     TFNahrady prehled(session_);
     prehled.FormShow();
     session_.obsluha().ukaz_modalne(prehled);
@@ -360,13 +360,13 @@ void TForm17::acNahrady() {
 
 void TForm17::acProhlizeniMezd() {
     if (ceka_na_obsluhu_ || !vazby_.prohlizeni_mezd) return;
-    const workers::Cekani ceka(ceka_na_obsluhu_);
+    const base::Cekani ceka(ceka_na_obsluhu_);
     vazby_.prohlizeni_mezd(session_);
 }
 
 void TForm17::acProhlizeni() {
     if (ceka_na_obsluhu_) return;
-    const workers::Cekani ceka(ceka_na_obsluhu_);
+    const base::Cekani ceka(ceka_na_obsluhu_);
     FiltrHrubych filtr_vet;
     if (pracovnik >= 0) filtr_vet.pracovnik = std::to_string(karta_.cislo);
     TForm18 prohlizeni(session_, filtr_vet);
@@ -377,7 +377,7 @@ void TForm17::acProhlizeni() {
 
 void TForm17::acSumarizace() {
     if (ceka_na_obsluhu_) return;
-    const workers::Cekani ceka(ceka_na_obsluhu_);
+    const base::Cekani ceka(ceka_na_obsluhu_);
     TForm20 sumarizace(session_);
     sumarizace.FormShow();
     session_.obsluha().ukaz_modalne(sumarizace);
@@ -395,7 +395,7 @@ void TForm17::po_opravach(bool opraveno, const std::set<int>& mesice) {
 
 void TForm17::acVykony() {
     if (ceka_na_obsluhu_) return;
-    const workers::Cekani ceka(ceka_na_obsluhu_);
+    const base::Cekani ceka(ceka_na_obsluhu_);
     TForm43 vykony(session_, ciselniky_.vykony);
     vykony.FormShow(zadani.vykon);
     session_.obsluha().ukaz_modalne(vykony);

@@ -4,12 +4,13 @@
 #include <fmt/format.h>
 
 #include "base/castky_text.h"
+#include "base/cekani.h"
 #include "base/datum.h"
 #include "base/text.h"
+#include "shell/prace_v_mesici.h"
 #include "shell/ulozeni_csv.h"
 #include "wages/unit18_vystup.h"
 #include "wages/unit19_oprava.h"
-#include "workers/cekani.h"
 
 namespace wages {
 
@@ -67,7 +68,7 @@ void TForm18::vyber_radek(int novy) {
 
 /// The month at hand has been let in; any other asks as its entry would.
 bool TForm18::smi_se_menit(int mesic) {
-    const PraceVMesici mesic_vety(session_, mesic);
+    const shell::PraceVMesici mesic_vety(session_, mesic);
     return mesic == mesic_zadani_ || shell::test_aktivniho_mesice_hrube(session_);
 }
 
@@ -78,13 +79,13 @@ void TForm18::oznac_zmenu(int mesic) {
 
 void TForm18::acOpravitExecute() {
     if (ceka_na_obsluhu_) return;
-    const workers::Cekani ceka(ceka_na_obsluhu_);
+    const base::Cekani ceka(ceka_na_obsluhu_);
     filtrExit();
     if (!je_veta()) return;
     const UlozenaVeta veta = vybrana();
     if (!smi_se_menit(veta.mesic)) return;
     {
-        const PraceVMesici mesic_vety(session_, veta.mesic);
+        const shell::PraceVMesici mesic_vety(session_, veta.mesic);
         TForm19 oprava(session_, veta.pocitadlo);
         oprava.FormShow();
         session_.obsluha().ukaz_modalne(oprava);
@@ -95,7 +96,7 @@ void TForm18::acOpravitExecute() {
 
 void TForm18::acSmazatExecute() {
     if (ceka_na_obsluhu_) return;
-    const workers::Cekani ceka(ceka_na_obsluhu_);
+    const base::Cekani ceka(ceka_na_obsluhu_);
     filtrExit();
     if (!je_veta()) return;
     const UlozenaVeta veta = vybrana();
@@ -115,7 +116,7 @@ void TForm18::acSmazatExecute() {
 
 void TForm18::acTiskExecute() {
     if (ceka_na_obsluhu_) return;
-    const workers::Cekani ceka(ceka_na_obsluhu_);
+    const base::Cekani ceka(ceka_na_obsluhu_);
     filtrExit();
     if (vety.empty()) return;
     ukaz_sestavu(session_, sestava_vet(vety, nalezeny_));
@@ -123,7 +124,7 @@ void TForm18::acTiskExecute() {
 
 void TForm18::acExportExecute() {
     if (ceka_na_obsluhu_) return;
-    const workers::Cekani ceka(ceka_na_obsluhu_);
+    const base::Cekani ceka(ceka_na_obsluhu_);
     filtrExit();
     if (vety.empty()) return;
     const int od = vety.front().mesic, do_ = vety.back().mesic;

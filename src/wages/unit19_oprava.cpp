@@ -3,10 +3,10 @@
 #include <fmt/format.h>
 
 #include "base/castky_text.h"
+#include "base/cekani.h"
 #include "base/datum.h"
 #include "base/text.h"
 #include "wages/unit90_davky.h"
-#include "workers/cekani.h"
 #include "workers/vykony.h"
 
 namespace wages {
@@ -136,7 +136,7 @@ void TForm19::poleExit() {
 
 void TForm19::nahradyExit(PoleNahrad pole) {
     if (ceka_na_obsluhu_) return;
-    const workers::Cekani ceka(ceka_na_obsluhu_);
+    const base::Cekani ceka(ceka_na_obsluhu_);
     nahrady.opusteni(pole, karta_);
     oznam_zmenu();
 }
@@ -171,7 +171,7 @@ void TForm19::Udelej_kontrolu() {
 
 void TForm19::acDavkyExecute() {
     if (ceka_na_obsluhu_ || !davky_povolene) return;
-    const workers::Cekani ceka(ceka_na_obsluhu_);
+    const base::Cekani ceka(ceka_na_obsluhu_);
     TForm90 davky(session_, puvodni_.veta.text);
     davky.FormShow();
     session_.obsluha().ukaz_modalne(davky);
@@ -197,7 +197,7 @@ VetaHrube TForm19::opravena() const {
 
 void TForm19::acUlozitExecute() {
     if (ceka_na_obsluhu_) return;
-    const workers::Cekani ceka(ceka_na_obsluhu_);
+    const base::Cekani ceka(ceka_na_obsluhu_);
     Udelej_kontrolu();
     if (stranka == Stranka::nahrady) {
         if (!nahrady.over()) {

@@ -43,20 +43,4 @@ std::optional<std::int64_t> detail_nahrady(shell::Session& session, const Ulozen
 void otevri_vetu(store::Table& tabulka, shell::Session& session, std::string_view nazev,
                  std::int64_t pocitadlo);
 
-/// Makes a month the one being worked on for its life: computations of a row follow its month.
-class PraceVMesici {
-  public:
-    PraceVMesici(shell::Session& session, int mesic)
-        : session_(session), puvodni_(session.zpracovavany_mesic) {
-        session_.zpracovavany_mesic = mesic;
-    }
-    ~PraceVMesici() { session_.zpracovavany_mesic = puvodni_; }
-    PraceVMesici(const PraceVMesici&) = delete;
-    PraceVMesici& operator=(const PraceVMesici&) = delete;
-
-  private:
-    shell::Session& session_;
-    int puvodni_;
-};
-
 }  // namespace wages

@@ -4,6 +4,7 @@
 #include <fmt/format.h>
 
 #include "base/castky_text.h"
+#include "base/cekani.h"
 #include "base/datum.h"
 #include "base/text.h"
 #include "shell/ulozeni_csv.h"
@@ -11,7 +12,6 @@
 #include "store/transfer.h"
 #include "wages/unit18_prohlizeni.h"
 #include "wages/unit18_vystup.h"
-#include "workers/cekani.h"
 
 namespace wages {
 namespace {
@@ -122,7 +122,7 @@ void TForm20::vyber_radek(int novy) {
 
 void TForm20::acPolozkyExecute() {
     if (ceka_na_obsluhu_ || !je_radek()) return;
-    const workers::Cekani ceka(ceka_na_obsluhu_);
+    const base::Cekani ceka(ceka_na_obsluhu_);
     FiltrHrubych filtr;
     filtr.*seskupeni(podle).filtr = std::to_string(radky[static_cast<std::size_t>(radek)].klic);
     TForm18 prohlizeni(session_, filtr);
@@ -139,7 +139,7 @@ void TForm20::acPolozkyExecute() {
 void TForm20::acTiskExecute() {
     using report::Zarovnani;
     if (ceka_na_obsluhu_ || radky.empty()) return;
-    const workers::Cekani ceka(ceka_na_obsluhu_);
+    const base::Cekani ceka(ceka_na_obsluhu_);
     const Seskupeni& s = seskupeni(podle);
     report::TabulkovaSestava sestava;
     sestava.nazev = nadpis;
@@ -160,7 +160,7 @@ void TForm20::acTiskExecute() {
 
 void TForm20::acExportExecute() {
     if (ceka_na_obsluhu_ || radky.empty()) return;
-    const workers::Cekani ceka(ceka_na_obsluhu_);
+    const base::Cekani ceka(ceka_na_obsluhu_);
     const Seskupeni& s = seskupeni(podle);
     store::Rows csv{{s.klic, "Text", "Pocet", "Dny", "Hodiny", "Kc_cel"}, {}};
     for (const RadekSumarizace& r : radky) {

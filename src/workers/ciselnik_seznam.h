@@ -6,24 +6,12 @@
 #include <string>
 #include <string_view>
 
+#include "base/cekani.h"
 #include "base/obsluha.h"
 #include "shell/session.h"
 #include "store/query.h"
 
 namespace workers {
-
-/// Marks that a dialog of a screen waits for the operator; the screen's other actions are refused
-/// then.
-class CekaniNaObsluhu {
-  public:
-    explicit CekaniNaObsluhu(bool& ceka) : ceka_(ceka) { ceka_ = true; }
-    ~CekaniNaObsluhu() { ceka_ = false; }
-    CekaniNaObsluhu(const CekaniNaObsluhu&) = delete;
-    CekaniNaObsluhu& operator=(const CekaniNaObsluhu&) = delete;
-
-  private:
-    bool& ceka_;
-};
 
 class SeznamVet : public base::Obrazovka {
   public:
@@ -53,7 +41,7 @@ class SeznamVet : public base::Obrazovka {
     template <class Prace>
     void nerusene(Prace prace) {
         if (ceka_) return;
-        const CekaniNaObsluhu cekani(ceka_);
+        const base::Cekani cekani(ceka_);
         prace();
     }
 

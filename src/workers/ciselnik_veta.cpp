@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 
+#include "base/cekani.h"
 #include "base/text.h"
 #include "store/query.h"
 #include "workers/ciselnik_seznam.h"
@@ -87,7 +88,7 @@ bool VetaCiselniku::obsluha_souhlasi() {
 
 void VetaCiselniku::acUlozitExecute() {
     if (ceka_) return;
-    const CekaniNaObsluhu cekani(ceka_);
+    const base::Cekani cekani(ceka_);
     if (!bez_chyb() || !obsluha_souhlasi()) return;
     zapis();
     ulozeno = true;

@@ -2,13 +2,13 @@
 
 #include <fmt/format.h>
 
+#include "base/cekani.h"
 #include "base/klavesy.h"
 #include "base/kodova_stranka.h"
 #include "base/text.h"
 #include "paysheet/sloupce.h"
 #include "shell/hodnota_text.h"
 #include "store/table.h"
-#include "workers/cekani.h"
 #include "workers/fixni.h"
 
 namespace workers {
@@ -185,7 +185,7 @@ bool PolozkaFixnich::ucet_v_poradku() {
         ucet_modulo_11(spojeni.Ucet)) {
         return true;
     }
-    const Cekani cekani(ceka_na_obsluhu_);
+    const base::Cekani cekani(ceka_na_obsluhu_);
     const bool pres_to = session_.obsluha().otazka_ano_ne(
         fmt::format("Číslo účtu \"{}\" neodpovídá bankovní kontrole čísla účtu (modulo 11)."
                     "\r\n\r\nUložit položku i s tímto účtem?",

@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <fmt/format.h>
 
+#include "base/cekani.h"
 #include "base/klavesy.h"
 #include "base/text.h"
 #include "report/nahled.h"
-#include "workers/cekani.h"
 #include "workers/fixni.h"
 #include "workers/fixni_hromadne.h"
 #include "workers/fixni_sestava.h"
@@ -79,7 +79,7 @@ void TForm11::acVseExecute() {
 
 void TForm11::ukaz_polozku(std::int64_t pocitadlo) {
     if (ceka_na_obsluhu_) return;
-    const Cekani cekani(ceka_na_obsluhu_);
+    const base::Cekani cekani(ceka_na_obsluhu_);
     TForm12 polozka(session_, pocitadlo);
     polozka.FormShow();
     session_.obsluha().ukaz_modalne(polozka);
@@ -98,7 +98,7 @@ void TForm11::acOpravitExecute() {
 
 void TForm11::acSmazatExecute() {
     if (ceka_na_obsluhu_ || radek < 0) return;
-    const Cekani cekani(ceka_na_obsluhu_);
+    const base::Cekani cekani(ceka_na_obsluhu_);
     smaz_fixni_polozku(session_, pocitadlo_radku());
     obnov(pocitadlo_radku());
     fokus = "mrizka";
@@ -117,7 +117,7 @@ void TForm11::acKamPenizeExecute() {
 
 void TForm11::acHromadnaOpravaExecute() {
     if (ceka_na_obsluhu_) return;
-    const Cekani cekani(ceka_na_obsluhu_);
+    const base::Cekani cekani(ceka_na_obsluhu_);
     TForm75 oprava(session_, omezeni, zvolene_trideni());
     oprava.FormShow();
     session_.obsluha().ukaz_modalne(oprava);
@@ -142,7 +142,7 @@ void TForm11::ohlas(const std::string& zprava) {
 
 void TForm11::btPridejClick() {
     if (ceka_na_obsluhu_) return;
-    const Cekani cekani(ceka_na_obsluhu_);
+    const base::Cekani cekani(ceka_na_obsluhu_);
     for (const auto& [pole, text] :
          {std::pair{"pridej_od", &pridej_od}, std::pair{"pridej_do", &pridej_do}}) {
         if (base::neprazdny(*text)) continue;
@@ -163,7 +163,7 @@ void TForm11::btPridejClick() {
 
 void TForm11::btVynulujClick() {
     if (ceka_na_obsluhu_) return;
-    const Cekani cekani(ceka_na_obsluhu_);
+    const base::Cekani cekani(ceka_na_obsluhu_);
     if (!over_sloupec(pro_sloupec, "pro_sloupec")) return;
     const int sloupec = base::je_cele_cislo(pro_sloupec);
     const int vet = vynuluj_fixni(session_, sloupec);
@@ -175,7 +175,7 @@ void TForm11::btVynulujClick() {
 
 void TForm11::btSmazZaznamClick() {
     if (ceka_na_obsluhu_) return;
-    const Cekani cekani(ceka_na_obsluhu_);
+    const base::Cekani cekani(ceka_na_obsluhu_);
     if (!over_sloupec(pro_sloupec, "pro_sloupec")) return;
     const int sloupec = base::je_cele_cislo(pro_sloupec);
     const std::string otazka = fmt::format(
@@ -192,7 +192,7 @@ void TForm11::btSmazZaznamClick() {
 
 void TForm11::acTiskExecute() {
     if (ceka_na_obsluhu_) return;
-    const Cekani cekani(ceka_na_obsluhu_);
+    const base::Cekani cekani(ceka_na_obsluhu_);
     report::TFUsrPrev nahled(sestava_fixnich(session_, vety, zvolene_trideni(), lbOmezeni));
     session_.obsluha().ukaz_modalne(nahled);
 }

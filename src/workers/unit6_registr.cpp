@@ -4,6 +4,7 @@
 #include <fmt/format.h>
 #include <fmt/ranges.h>
 
+#include "base/cekani.h"
 #include "base/datum.h"
 #include "report/nahled.h"
 #include "store/table.h"
@@ -110,7 +111,7 @@ void TForm6::vyber_radek(int novy) {
 
 void TForm6::acPridatExecute() {
     if (ceka_na_obsluhu_) return;
-    const CekaniNaObsluhu cekani(ceka_na_obsluhu_);
+    const base::Cekani cekani(ceka_na_obsluhu_);
     const std::int64_t puvodni = pocitadlo_radku();
     TForm7 karta(session_, vyber_kalendare_);
     karta.acPridatExecute();
@@ -122,7 +123,7 @@ void TForm6::acPridatExecute() {
 
 void TForm6::acOpravitExecute() {
     if (ceka_na_obsluhu_ || !pracovnik()) return;
-    const CekaniNaObsluhu cekani(ceka_na_obsluhu_);
+    const base::Cekani cekani(ceka_na_obsluhu_);
     const std::int64_t opravovany = pocitadlo_radku();
     TForm7 karta(session_, vyber_kalendare_);
     karta.acOpravitExecute(opravovany);
@@ -172,7 +173,7 @@ void TForm6::smaz_kartu(const RadekRegistru& kdo, bool ma_udaje) {
 
 void TForm6::acSmazatExecute() {
     if (ceka_na_obsluhu_ || !pracovnik()) return;
-    const CekaniNaObsluhu cekani(ceka_na_obsluhu_);
+    const base::Cekani cekani(ceka_na_obsluhu_);
     fokus = "mrizka";
     const RadekRegistru kdo = *pracovnik();
     bool ma_udaje = false;
@@ -211,7 +212,7 @@ report::TabulkovaSestava TForm6::sestava() const {
 
 void TForm6::acTiskniExecute() {
     if (ceka_na_obsluhu_) return;
-    const CekaniNaObsluhu cekani(ceka_na_obsluhu_);
+    const base::Cekani cekani(ceka_na_obsluhu_);
     report::TFUsrPrev nahled(report::sestav_tabulku(sestava()));
     session_.obsluha().ukaz_modalne(nahled);
 }

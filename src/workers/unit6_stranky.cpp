@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <fmt/format.h>
 
+#include "base/cekani.h"
 #include "base/datum.h"
 #include "base/text.h"
 #include "paysheet/sloupce.h"
@@ -171,7 +172,7 @@ void TForm6::nacti_info() {
 
 void TForm6::ukaz_dite(std::int64_t pocitadlo) {
     if (ceka_na_obsluhu_ || !pracovnik()) return;
-    const CekaniNaObsluhu cekani(ceka_na_obsluhu_);
+    const base::Cekani cekani(ceka_na_obsluhu_);
     TForm9 dite(session_, pocitadlo, static_cast<int>(pracovnik()->Cislo));
     dite.FormShow();
     session_.obsluha().ukaz_modalne(dite);
@@ -191,7 +192,7 @@ void TForm6::acDetiOpravitExecute() {
 
 void TForm6::acDetiSmazatExecute() {
     if (ceka_na_obsluhu_ || deti.radek < 0) return;
-    const CekaniNaObsluhu cekani(ceka_na_obsluhu_);
+    const base::Cekani cekani(ceka_na_obsluhu_);
     if (session_.obsluha().otazka_ano_ne("Smazat záznam?", "Smazázní záznamu dítěte")) {
         smaz_vetu(session_, "Deti", deti.Pocitadlo());
         registr_.nacti_vazby(session_);
@@ -214,7 +215,7 @@ void TForm6::ukaz_fixni(std::int64_t pocitadlo) {
 
 void TForm6::acFixniPridatExecute() {
     if (ceka_na_obsluhu_ || !pracovnik()) return;
-    const CekaniNaObsluhu cekani(ceka_na_obsluhu_);
+    const base::Cekani cekani(ceka_na_obsluhu_);
     if (je_modul_pro_fixni(session_.ridici_zorv)) {
         ukaz_fixni(0);
     } else {
@@ -224,7 +225,7 @@ void TForm6::acFixniPridatExecute() {
 
 void TForm6::acFixniOpravitExecute() {
     if (ceka_na_obsluhu_ || fixni.radek < 0) return;
-    const CekaniNaObsluhu cekani(ceka_na_obsluhu_);
+    const base::Cekani cekani(ceka_na_obsluhu_);
     if (je_modul_pro_opravu_fixnich(session_.ridici_zorv)) {
         ukaz_fixni(fixni.Pocitadlo());
     } else {
@@ -234,7 +235,7 @@ void TForm6::acFixniOpravitExecute() {
 
 void TForm6::acFixniSmazatExecute() {
     if (ceka_na_obsluhu_ || fixni.radek < 0) return;
-    const CekaniNaObsluhu cekani(ceka_na_obsluhu_);
+    const base::Cekani cekani(ceka_na_obsluhu_);
     smaz_fixni_polozku(session_, fixni.Pocitadlo());
     nacti_fixni(fixni.Pocitadlo());
     fokus = "mrizka_fixni";
@@ -245,7 +246,7 @@ void TForm6::acFixniSmazatExecute() {
 
 void TForm6::acEPodaniSmazatExecute() {
     if (ceka_na_obsluhu_ || epodani.radek < 0) return;
-    const CekaniNaObsluhu cekani(ceka_na_obsluhu_);
+    const base::Cekani cekani(ceka_na_obsluhu_);
     if (session_.obsluha().otazka_ano_ne("Smazat záznam? (Vygenerovaný XML soubor bude zachován.)",
                                          "Smazání záznamu ePodání.")) {
         smaz_vetu(session_, "epodani", epodani.Pocitadlo());

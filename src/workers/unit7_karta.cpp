@@ -3,9 +3,9 @@
 #include <fmt/format.h>
 
 #include "base/castky_text.h"
+#include "base/cekani.h"
 #include "base/chyba.h"
 #include "base/text.h"
-#include "workers/cekani.h"
 #include "workers/unit7_osoba.h"
 #include "workers/unit7_vyber_pracovnika.h"
 
@@ -155,7 +155,7 @@ void TForm7::acRpdMinExecute() {
 
 void TForm7::zvol_kalendar(const char* ovladac, int rok, const char* hlaska) {
     if (zaneprazdnen_) return;
-    const Cekani cekani(zaneprazdnen_);
+    const base::Cekani cekani(zaneprazdnen_);
     const auto kalendar = vyber_kalendare_(session_);
     if (!kalendar) return;
     if (kalendar->rok != rok) {
@@ -185,7 +185,7 @@ void TForm7::smaz_kalendar(const char* ovladac) {
 void TForm7::btKdoPlatiDanClick() {
     if (zaneprazdnen_) return;
     {
-        const Cekani cekani(zaneprazdnen_);
+        const base::Cekani cekani(zaneprazdnen_);
         TFVyberPracovnika vyber(session_, hodnoty.cislo("Kdo_plati_dan"));
         vyber.FormShow();
         session_.obsluha().ukaz_modalne(vyber);
@@ -253,7 +253,7 @@ void TForm7::acUlozitExecute() {
         vyber_chybu(0);
         return;
     }
-    const Cekani cekani(zaneprazdnen_);
+    const base::Cekani cekani(zaneprazdnen_);
     if (!hodnoty_lze_zapsat()) return;
     if (pracovnik_uz_existuje()) {
         session_.obsluha().hlaska(

@@ -52,18 +52,6 @@ TEST(HlavniOkno, VypocetZTlacitkaZmeniPrehledRoku) {
     EXPECT_TRUE(h.krok().startsWith("Leden: výplaty spočteny")) << h.krok().toStdString();
 }
 
-TEST(HlavniOkno, OdmitnutyMesicDostaneFokus) {
-    HlavniOkno h;
-    auto& mesic = prvek<QSpinBox>(h.okno, "mesic");
-    mesic.setValue(7);  // no gross wages there
-    auto& vypocet = prvek<QPushButton>(h.okno, "acVypocetVyplat");
-    vypocet.setFocus();
-    v_okne([](QWidget& hlaska) { QTest::keyClick(&hlaska, Qt::Key_Return); });
-    vypocet.click();
-    EXPECT_TRUE(mesic.hasFocus());
-    EXPECT_FALSE(h.form.fokus_na_mesici);
-}
-
 TEST(HlavniOkno, KlepnutiNaMesicHoVybereProAkce) {
     HlavniOkno h;
     auto& rok = prvek<QWidget>(h.okno, "rok");

@@ -6,6 +6,7 @@
 #include "base/soubory.h"
 #include "report/nahled.h"
 #include "report/text.h"
+#include "shell/prace_v_mesici.h"
 #include "store/catalogue.h"
 #include "support/zkusebni_firma.h"
 #include "wages/unit17_zadani.h"
@@ -231,7 +232,7 @@ TEST_F(OpravyHrubych, CastkaAneboDnyHodinyACastka) {
     };
     for (const Pripad& p : pripady) {
         SCOPED_TRACE(testing::Message() << p.pocitadlo << " " << p.koruny);
-        const wages::PraceVMesici v_mesici(firma.session, p.mesic);
+        const shell::PraceVMesici v_mesici(firma.session, p.mesic);
         const std::string tabulka = store::month_table("Hrube", p.mesic);
         const std::string puvodni = veta(p.pocitadlo, tabulka.c_str());
         TForm19 form(firma.session, p.pocitadlo);

@@ -1,7 +1,7 @@
 // The guard against re-entry: while a dialog of a screen waits, its other actions refuse.
 #pragma once
 
-namespace workers {
+namespace base {
 
 /// Marks for its life that the screen waits for the operator.
 class Cekani {
@@ -15,4 +15,4 @@ class Cekani {
     bool& ceka_;
 };
 
-}  // namespace workers
+}  // namespace base
