@@ -2,6 +2,7 @@
 
 #include "desktop/okno_ciselniku.h"
 #include "desktop/okno_form11.h"
+#include "desktop/okno_form110.h"
 #include "desktop/okno_form12.h"
 #include "desktop/okno_form123.h"
 #include "desktop/okno_form13.h"
@@ -62,6 +63,7 @@ const std::vector<DruhOkna>& vsechna_okna() {
         {"TFVyberPracovnika", vyrob<OknoVyberPracovnika, workers::TFVyberPracovnika>},
         {"TForm9", vyrob<OknoForm9, workers::TForm9>},
         {"TForm11", vyrob<OknoForm11, workers::TForm11>},
+        {"TForm110", vyrob<OknoForm110, wages::TForm110>},
         {"TForm12", vyrob<OknoForm12, workers::TForm12>},
         {"TFHromadneZadani", vyrob<OknoHromadne, wages::TFHromadneZadani>},
         {"TForm17", vyrob<OknoForm17, wages::TForm17>},

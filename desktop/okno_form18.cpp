@@ -133,6 +133,9 @@ void OknoForm18::tlacitka() {
     vazba().povolene(tlacitko(
                          "&Opravit", "acOpravit", [this] { form_.acOpravitExecute(); }, Qt::Key_F2),
                      pri_vete);
+    vazba().povolene(
+        tlacitko("Opravit &ručně", "acOpravitRucne", [this] { form_.acOpravitRucneExecute(); }),
+        pri_vete);
     vazba().povolene(tlacitko("&Smazat", "acSmazat", [this] { form_.acSmazatExecute(); }),
                      pri_vete);
     vazba().povolene(tlacitko(

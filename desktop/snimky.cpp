@@ -223,6 +223,7 @@ const std::vector<Ukazka>& ukazky() {
         {"TForm20", sumarizace_hrubych},
         {"TForm43", vykony},
         {"TForm90", oprava_davky},
+        {"TForm110", rucni_oprava},
         {"TForm50", blokovane_hodnoty},
         {"TForm51", blokovana_hodnota},
         {"TForm66", vety_listiny},

@@ -3,6 +3,7 @@
 #include "store/catalogue.h"
 #include "store/query.h"
 #include "store/table.h"
+#include "wages/unit110_castka.h"
 #include "wages/unit18_prohlizeni.h"
 #include "wages/unit19_oprava.h"
 #include "wages/unit20_sumarizace.h"
@@ -105,6 +106,14 @@ std::shared_ptr<base::Obrazovka> oprava_davky(shell::Session& session) {
                                                                      {3, 24, 0, 0},
                                                                      {0, 410, 451, 492},
                                                                      0}));
+    form->FormShow();
+    return form;
+}
+
+std::shared_ptr<base::Obrazovka> rucni_oprava(shell::Session& session) {
+    const int mesic = session.zpracovavany_mesic;
+    auto form = std::make_shared<wages::TForm110>(
+        session, wages::nacti_vetu_hrubych_mezd(session, mesic, polozka_s_dny(session, 1)));
     form->FormShow();
     return form;
 }

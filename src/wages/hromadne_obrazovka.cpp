@@ -34,11 +34,10 @@ void TFHromadneZadani::acVybratExecute() {
 }
 
 void TFHromadneZadani::nacti(const std::string& cesta) {
-    soubor = cesta;
-    const std::string nazev = std::filesystem::path(cesta).filename().string();
+    soubor = std::filesystem::path(cesta).filename().string();
     try {
         davka = precti_hromadne(session_, session_.zpracovavany_mesic,
-                                base::precti_soubor(cesta, k_nejdelsi_soubor), nazev);
+                                base::precti_soubor(cesta, k_nejdelsi_soubor), soubor);
     } catch (const store::StoreError&) {
         throw;
     } catch (const base::ChybaDat& chyba) {

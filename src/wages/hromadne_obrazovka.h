@@ -16,7 +16,7 @@ class TFHromadneZadani final : public base::Obrazovka {
     std::string_view jmeno() const override { return "TFHromadneZadani"; }
 
     std::string nadpis;
-    std::string soubor;    ///< path of the file read last
+    std::string soubor;    ///< name of the file read last
     HromadneZadani davka;  ///< its rows and faults
     std::string lbSouhrn;  ///< how many rows, how many faults, their total
     bool zapsat_povoleno = false;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <fmt/format.h>
+#include <optional>
 
 #include "base/castky_text.h"
 #include "base/cekani.h"
@@ -9,6 +10,7 @@
 #include "base/text.h"
 #include "shell/prace_v_mesici.h"
 #include "shell/ulozeni_csv.h"
+#include "wages/unit110_castka.h"
 #include "wages/unit18_vystup.h"
 #include "wages/unit19_oprava.h"
 
@@ -77,7 +79,9 @@ void TForm18::oznac_zmenu(int mesic) {
     zmenene_mesice.insert(mesic);
 }
 
-void TForm18::acOpravitExecute() {
+/// Shows the correcting screen of the row at hand in the row's month.
+template <class Oprava, class Vyrob>
+void TForm18::oprav(Vyrob vyrob) {
     if (ceka_na_obsluhu_) return;
     const base::Cekani ceka(ceka_na_obsluhu_);
     filtrExit();
@@ -86,12 +90,30 @@ void TForm18::acOpravitExecute() {
     if (!smi_se_menit(veta.mesic)) return;
     {
         const shell::PraceVMesici mesic_vety(session_, veta.mesic);
-        TForm19 oprava(session_, veta.pocitadlo);
-        oprava.FormShow();
-        session_.obsluha().ukaz_modalne(oprava);
-        if (oprava.zmeneno) oznac_zmenu(veta.mesic);
+        std::optional<Oprava> oprava = vyrob(veta);
+        if (!oprava) return;
+        oprava->FormShow();
+        session_.obsluha().ukaz_modalne(*oprava);
+        if (oprava->zmeneno) oznac_zmenu(veta.mesic);
     }
     obnov(veta);
+}
+
+void TForm18::acOpravitExecute() {
+    oprav<TForm19>([this](const UlozenaVeta& veta) {
+        return std::optional<TForm19>(std::in_place, session_, veta.pocitadlo);
+    });
+}
+
+void TForm18::acOpravitRucneExecute() {
+    oprav<TForm110>([this](const UlozenaVeta& veta) -> std::optional<TForm110> {
+        if (detail_nahrady(session_, veta)) {
+            session_.obsluha().hlaska(
+                "Položka nese náhradu, opravte ji tlačítkem Opravit, aby s ní souhlasila.");
+            return std::nullopt;
+        }
+        return std::optional<TForm110>(std::in_place, session_, veta);
+    });
 }
 
 void TForm18::acSmazatExecute() {

@@ -39,6 +39,8 @@ class TForm18 final : public base::Obrazovka {
     void acVse();  ///< blanks the filter but for the months
     void vyber_radek(int novy);
     void acOpravitExecute();
+    /// The crowns alone, past the computation; not for a row that carries a compensation.
+    void acOpravitRucneExecute();
     void acSmazatExecute();
     void acTiskExecute();
     void acExportExecute();
@@ -55,6 +57,8 @@ class TForm18 final : public base::Obrazovka {
     const UlozenaVeta& vybrana() const { return vety[static_cast<std::size_t>(radek)]; }
     bool smi_se_menit(int mesic);
     void oznac_zmenu(int mesic);
+    template <class Oprava, class Vyrob>
+    void oprav(Vyrob vyrob);
 };
 
 }  // namespace wages

@@ -3,8 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include "base/soubory.h"
 #include "store/catalogue.h"
 #include "support/zkusebni_firma.h"
+#include "wages/hromadne_obrazovka.h"
 
 namespace {
 
@@ -110,6 +112,29 @@ TEST_F(HromadneZadani, CiziSouborDaJednuChybu) {
         EXPECT_EQ(precti(p.csv).chyby, Chyby{p.chyba});
     }
     EXPECT_EQ(precti("Cislo_pracovnika,Sloupec\n\"20").chyby.size(), 1U);
+}
+
+TEST_F(HromadneZadani, ObrazovkaUkazeChybyAZapiseAzSpravnySoubor) {
+    const auto soubor = firma.slozka / "dochazka.csv";
+    wages::TFHromadneZadani form(firma.session);
+    form.FormShow();
+    EXPECT_EQ(form.nadpis, "Hrubé mzdy ze souboru - březen  2022");
+    form.nacti((firma.slozka / "neni.csv").string());
+    EXPECT_EQ(form.davka.chyby.size(), 1U);
+
+    base::zapis_soubor(soubor, "Cislo_pracovnika,Sloupec,Hodnota_1\n20,2,305\n10,2,999\n");
+    form.nacti(soubor.string());
+    EXPECT_EQ(form.lbSouhrn, "Položek: 2, chyb: 1, celkem 88,50 Kč");
+    form.acZapsatExecute();
+    EXPECT_EQ(hrube(), "");
+    EXPECT_FALSE(form.zavreno);
+
+    base::zapis_soubor(soubor, "Cislo_pracovnika,Sloupec,Hodnota_1\n20,2,305\n10,2,305\n");
+    form.nacti(soubor.string());
+    form.acZapsatExecute();
+    EXPECT_EQ(firma.obsluha.hlasky, Chyby{"Zapsáno položek: 2."});
+    EXPECT_TRUE(form.zmeneno && form.zavreno);
+    EXPECT_EQ(firma.vypis("SELECT SUM(Kc_cel) FROM Hrube03"), "177\n");
 }
 
 }  // namespace

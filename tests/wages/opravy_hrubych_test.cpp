@@ -9,6 +9,7 @@
 #include "shell/prace_v_mesici.h"
 #include "store/catalogue.h"
 #include "support/zkusebni_firma.h"
+#include "wages/unit110_castka.h"
 #include "wages/unit17_zadani.h"
 #include "wages/unit18_prohlizeni.h"
 #include "wages/unit19_oprava.h"
@@ -498,6 +499,33 @@ TEST_F(OpravyHrubych, ZadaniPrevezmeCoSeOpravilo) {
     zadani.acProhlizeni();
     EXPECT_TRUE(zadani.zmeneno);
     EXPECT_EQ(static_cast<double>(zadani.pracovnici[1].koruny), 6546.8);
+}
+
+TEST_F(OpravyHrubych, KorunySeOpraviRucneJenBezNahrady) {
+    vloz_hrube();
+    TForm18 form(firma.session, {});
+    form.FormShow();
+    najdi(form, 3, 1);
+    std::string napsano = " ";
+    firma.obsluha.pri_obrazovce = [&](base::Obrazovka& o) {
+        auto& oprava = dynamic_cast<wages::TForm110&>(o);
+        EXPECT_EQ(oprava.lbPracovnik + ", " + oprava.scKoruny, "20  Černá Eva, 4820,00");
+        oprava.scKoruny = napsano;
+        oprava.acUlozitExecute();
+    };
+    form.acOpravitRucneExecute();
+    EXPECT_EQ(firma.obsluha.hlasky, std::vector<std::string>{"Nezadali jste koruny."});
+    EXPECT_FALSE(form.zmeneno);
+    napsano = "-4821,505";
+    form.acOpravitRucneExecute();
+    EXPECT_EQ(veta(1), "úkol|5||40||07.03.|12|120.5|40|-4821.5|pozn.|5\n");
+    EXPECT_TRUE(form.zmeneno);
+
+    najdi(form, 3, 3);
+    firma.obsluha.pri_obrazovce = {};
+    form.acOpravitRucneExecute();
+    EXPECT_EQ(firma.obsluha.hlasky.back(),
+              "Položka nese náhradu, opravte ji tlačítkem Opravit, aby s ní souhlasila.");
 }
 
 }  // namespace
