@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QShortcut>
 #include <QSpinBox>
 #include <QTabWidget>
 #include <QTableView>
@@ -189,7 +190,13 @@ void Vazba::radek(QTableView& tabulka, const int& radek, std::function<void(int 
 }
 
 void Vazba::tlacitko(QAbstractButton& tlacitko, Metoda metoda, const QKeySequence& zkratka) {
-    if (!zkratka.isEmpty()) tlacitko.setShortcut(zkratka);
+    if (!zkratka.isEmpty()) {
+        // A shortcut of the button itself would take its mnemonic away and act a tenth of a second
+        // later.
+        auto* klavesa = new QShortcut(zkratka, &tlacitko);
+        QObject::connect(klavesa, &QShortcut::activated, &tlacitko,
+                         [&tlacitko] { tlacitko.click(); });
+    }
     QObject::connect(&tlacitko, &QAbstractButton::clicked, &tlacitko,
                      [metoda = std::move(metoda)] { metoda(); });
 }
