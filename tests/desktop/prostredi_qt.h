@@ -23,23 +23,25 @@ inline constexpr int k_cekani_na_okno = 2000;
 /// Runs when another modal window than now has opened; one must come within the wait. After a
 /// failure all windows are closed, so that the test ends.
 inline void v_okne(std::function<void(QWidget& okno)> prace,
-                   QWidget* dosud = QApplication::activeModalWidget(), int pokusu = k_cekani_na_okno) {
-    QTimer::singleShot(pokusu == k_cekani_na_okno ? 0 : 10, &aplikace(), [=, prace = std::move(prace)] {
-        QWidget* okno = QApplication::activeModalWidget();
-        if (okno == dosud && pokusu > 0) {
-            v_okne(prace, dosud, pokusu - 1);
-            return;
-        }
-        if (okno && okno != dosud) {
-            // Keys go to the field with the focus, which an inactive window does not have. Qt's own
-            // wait takes a window for active as soon as the one below it is.
-            EXPECT_TRUE(QTest::qWaitFor([=] { return QApplication::activeWindow() == okno; }));
-            prace(*okno);
-        } else {
-            ADD_FAILURE() << "žádné okno se neotevřelo";
-        }
-        if (testing::Test::HasFailure()) aplikace().ukonci();
-    });
+                   QWidget* dosud = QApplication::activeModalWidget(),
+                   int pokusu = k_cekani_na_okno) {
+    QTimer::singleShot(
+        pokusu == k_cekani_na_okno ? 0 : 10, &aplikace(), [=, prace = std::move(prace)] {
+            QWidget* okno = QApplication::activeModalWidget();
+            if (okno == dosud && pokusu > 0) {
+                v_okne(prace, dosud, pokusu - 1);
+                return;
+            }
+            if (okno && okno != dosud) {
+                // Keys go to the field with the focus, which an inactive window does not have. Qt's
+                // own wait takes a window for active as soon as the one below it is.
+                EXPECT_TRUE(QTest::qWaitFor([=] { return QApplication::activeWindow() == okno; }));
+                prace(*okno);
+            } else {
+                ADD_FAILURE() << "žádné okno se neotevřelo";
+            }
+            if (testing::Test::HasFailure()) aplikace().ukonci();
+        });
 }
 
 template <class Prvek>
