@@ -78,4 +78,8 @@ function(zorv_test folder)
   target_compile_definitions(test_${folder} PRIVATE
     ZORV_TEST_DATA="${CMAKE_CURRENT_SOURCE_DIR}" ZORV_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
   add_test(NAME ${folder} COMMAND test_${folder})
+  if(ZORV_SANITIZE)
+    set_tests_properties(${folder} PROPERTIES
+      ENVIRONMENT "LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/leaks.supp:print_suppressions=0")
+  endif()
 endfunction()
