@@ -156,7 +156,9 @@ VetaHrube veta_bezneho_tiskopisu(const SloupecHrube& sloupec, const ZadaniPolozk
     if (sloupec.jake_hodiny == 1) v.hod_od = hodiny;
     if (sloupec.jake_hodiny == 2) v.hod_neod = hodiny;
     if (sloupec.jake_hodiny == 3) v.hod_vedl = hodiny;
-    if (sloupec.datum) v.datum = zadani.datum.substr(0, 2) + "." + zadani.datum.substr(2) + ".";
+    // F2 inside the field may come before its check.
+    if (sloupec.datum && base::neprazdny(zadani.datum))
+        v.datum = base::znaky(zadani.datum, 1, 2) + "." + base::znaky(zadani.datum, 3, 2) + ".";
     v.stredisko = cislo(sloupec.stredisko, zadani.stredisko);
     v.vykon = cislo(sloupec.vykon, zadani.vykon);
     v.stroj = cislo(sloupec.stroj, zadani.stroj);

@@ -116,7 +116,7 @@ std::vector<PolozkaCiselniku> ciselnik_karty(CiselnikKarty ciselnik,
                                 "3 invalidní částečný", "4 vdovský/vdovecký", "5 sirotčí",
                                 "A cizí charakteru starobního", "B cizí charakteru inv. plného",
                                 "C cizí charakteru část. inv."});
-        case CiselnikKarty::specifikace:
+        case CiselnikKarty::nositel_pojisteni:
             return {{"", "--- neurčeno ---"}, {"P", "Poslední"}, {"S", "Současný"}, {"N", "Není"}};
         case CiselnikKarty::druh_cinnosti:
             return druh_cinnosti();

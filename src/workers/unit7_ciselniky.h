@@ -11,15 +11,15 @@ namespace workers {
 
 enum class CiselnikKarty {
     zadny,
-    socialni,      ///< `Jake_socialni`
-    zdravotni,     ///< `Jake_zdravotni`
-    dan,           ///< `Jaka_dan`
-    invalidita,    ///< `Invalidita`
-    pohlavi,       ///< `CSSZ102`
-    rodinny_stav,  ///< `CSSZ103`
-    duchod,        ///< `CSSZ111`
-    specifikace,   ///< `Cnp_specifikace`
-    druh_cinnosti  ///< `Cssz_druh_cinnosti`
+    socialni,           ///< `Jake_socialni`
+    zdravotni,          ///< `Jake_zdravotni`
+    dan,                ///< `Jaka_dan`
+    invalidita,         ///< `Invalidita`
+    pohlavi,            ///< `CSSZ102`
+    rodinny_stav,       ///< `CSSZ103`
+    duchod,             ///< `CSSZ111`
+    nositel_pojisteni,  ///< `Cnp_specifikace`
+    druh_cinnosti       ///< `Cssz_druh_cinnosti`
 };
 
 struct PolozkaCiselniku {

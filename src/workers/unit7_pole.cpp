@@ -200,7 +200,7 @@ void cizozemci(Seznam& s) {
     s.text("CSSZ137", "Pojištění v cizině - číslo pojištění");
     s.text("CSSZ135", "Pojištění v cizině - PSČ");
     s.text("CSSZ136", "Pojištění v cizině - stát", D::velka);
-    s.seznam("Cnp_specifikace", "Pojištění v cizině - nositel", C::specifikace);
+    s.seznam("Cnp_specifikace", "Pojištění v cizině - nositel", C::nositel_pojisteni);
 }
 
 std::map<std::string, std::size_t, std::less<>> mista_podle_jmena() {

@@ -456,4 +456,17 @@ TEST_F(ZadaniHrubych, SmazaniZadaniJdeKamRikaTrideni) {
     EXPECT_EQ(form.fokus, "scDny");
 }
 
+TEST_F(ZadaniHrubych, DatumSmazanePredF2ZapisNeshodi) {
+    vypln_ukol();
+    form.zadani.vykon = "101";
+    form.poleExit();
+    ASSERT_FALSE(form.scChyby_viditelne);
+    for (const char* datum : {"", "7"}) {
+        form.zadani.datum = datum;
+        form.zapsat_povoleno = true;
+        form.Button2Click();
+    }
+    EXPECT_EQ(firma.vypis("SELECT Datum FROM Hrube03 ORDER BY Pocitadlo"), "\n7..\n");
+}
+
 }  // namespace
